@@ -1,0 +1,16 @@
+# The names of all probes, read off the SDK's headers: <build>/generated/ProbeTable.inc, for VEXHost only.
+set(probe_script ${PROJECT_SOURCE_DIR}/scripts/probe-table)
+if(EXISTS ${probe_script})
+    find_package(Python3 REQUIRED COMPONENTS Interpreter)
+    file(GLOB_RECURSE probe_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/sdk/*.h)
+    set(probe_table ${HLX_GENERATED_DIR}/ProbeTable.inc)
+    file(MAKE_DIRECTORY ${HLX_GENERATED_DIR})
+    add_custom_command(OUTPUT ${probe_table}
+        COMMAND Python3::Interpreter ${probe_script} sdk ${probe_table}
+        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
+        DEPENDS ${probe_script} ${probe_headers}
+        COMMENT "Listing the SDK's probes"
+        VERBATIM)
+    target_sources(VEXHost PRIVATE ${probe_table})
+    target_include_directories(VEXHost PRIVATE ${HLX_GENERATED_DIR})
+endif()

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: Apache-2.0
+// Validity, quoting and numbers.
+#include "host/system/Texts.h"
+
+#include <charconv>
+
+namespace vex::text {
+
+namespace {
+
+constexpr char hexDigits[] = "0123456789abcdef";
+
+/// Length of the well-formed sequence at the start of `text`, and its code point; 0 when there is none.
+std::size_t Decode(std::string_view text, char32_t& point)
+{
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned char first = byte(0);
+    if (first < 0x80) {
+        point = first;
+        return 1;
+    }
+    const std::size_t length = first >= 0xF0 ? 4 : (first >= 0xE0 ? 3 : 2);
+    if (first < 0xC2 || first > 0xF4 || text.size() < length) {
+        return 0;
+    }
+    point = static_cast<char32_t>(first & (0xFFU >> (length + 1)));
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xC0U) != 0x80U) {
+            return 0;
+        }
+        point = (point << 6U) | (byte(i) & 0x3FU);
+    }
+    const bool overlong = (length == 3 && point < 0x800) || (length == 4 && point < 0x10000);
+    const bool surrogate = point >= 0xD800 && point <= 0xDFFF;
+    return overlong || surrogate || point > 0x10FFFF ? 0 : length;
+}
+
+bool IsControl(char32_t point)
+{
+    return point < 0x20 || (point >= 0x7F && point < 0xA0) || point == 0x061C ||
+           (point >= 0x200E && point <= 0x200F) || (point >= 0x2028 && point <= 0x202E) ||
+           (point >= 0x2066 && point <= 0x2069);
+}
+
+void AppendCodePoint(std::string& out, char32_t point)
+{
+    char digits[8];
+    const auto end = std::to_chars(digits, digits + sizeof digits,
+                                   static_cast<std::uint32_t>(point), 16).ptr;
+    out += "\\u{";
+    out.append(digits, end);
+    out += '}';
+}
+
+}  // namespace
+
+bool IsValid(std::string_view text)
+{
+    while (!text.empty()) {
+        char32_t point = 0;
+        const std::size_t length = Decode(text, point);
+        if (length == 0 || point == 0) {
+            return false;
+        }
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+void AppendQuoted(std::string& out, std::string_view text)
+{
+    out += '"';
+    while (!text.empty()) {
+        char32_t point = 0;
+        const std::size_t length = Decode(text, point);
+        if (length == 0) {
+            const auto byte = static_cast<unsigned char>(text[0]);
+            out += "\\x";
+            out += hexDigits[byte >> 4U];
+            out += hexDigits[byte & 0xFU];
+            text.remove_prefix(1);
+            continue;
+        }
+        if (point == U'"' || point == U'\\') {
+            out += '\\';
+            out += text[0];
+        } else if (point == U'\n') {
+            out += "\\n";
+        } else if (point == U'\r') {
+            out += "\\r";
+        } else if (point == U'\t') {
+            out += "\\t";
+        } else if (IsControl(point)) {
+            AppendCodePoint(out, point);
+        } else {
+            out += text.substr(0, length);
+        }
+        text.remove_prefix(length);
+    }
+    out += '"';
+}
+
+void AppendNumber(std::string& out, double number)
+{
+    char digits[32];
+    out.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+}
+
+void AppendNumber(std::string& out, std::int64_t number)
+{
+    char digits[24];
+    out.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+}
+
+}  // namespace vex::text

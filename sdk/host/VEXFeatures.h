@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+// Features: the objects of a document's tree, their attributes, names and containers.
+#pragma once
+
+#include "VEXLists.h"
+
+class VEXDocument;
+class VEXISpecObject;
+VEX_INTERFACE(VEXISpecObject);
+
+/// One attribute of a feature. Owned by the list it came in; see VEXISpecObject::ListAttributes.
+class VEXISpecAttribute : public VEXBaseUnknown {
+public:
+    /// The object that a reference attribute holds, with a reference added that the caller releases; null for other
+    /// kinds of attribute, for an empty reference and for one whose target was deleted.
+    virtual VEXISpecObject* GetValueObject() const = 0;
+
+    virtual VEXUnicodeString GetName() const = 0;
+};
+
+VEX_INTERFACE(VEXISpecAttribute);
+
+/// A feature of a document's tree.
+class VEXISpecObject : public VEXBaseUnknown {
+public:
+    /// The late type: the feature's type name in the catalogue.
+    virtual VEXUnicodeString GetType() const = 0;
+
+    /// The feature it stands under; empty for the root of a container.
+    virtual VEXISpecObject_var GetFather() const = 0;
+
+    /// The attributes whose kind has that type name ("VEXISpecObject": references; "boolean", "integer", "double",
+    /// "string", "list", "table", "link"; empty: all), in catalogue order. The two texts are kept for filters by role and by facet: empty.
+    /// @return a new list of counted attributes; the caller releases each and deletes the list. Null when the feature is gone.
+    virtual VEXListPtrVEXISpecAttribute* ListAttributes(const VEXUnicodeString& type,
+                                                        const VEXUnicodeString& role,
+                                                        const VEXUnicodeString& facet) const = 0;
+};
+
+/// The displayed name of a feature.
+class VEXIAlias : public VEXBaseUnknown {
+public:
+    /// @return S_OK; E_INVALIDARG for a text that is not valid UTF-8 (the name stays); E_FAIL when the feature is gone
+    virtual HRESULT SetAlias(const VEXUnicodeString& name) = 0;
+
+    /// The name; empty when none was set.
+    virtual VEXUnicodeString GetAlias() const = 0;
+};
+
+VEX_INTERFACE(VEXIAlias);
+
+/// An object whose children of a kind can be listed, at any depth below it.
+class VEXIDescendants : public VEXBaseUnknown {
+public:
+    /// Appends the descendants that implement the named interface, each before those below it.
+    virtual HRESULT GetAllChildren(const char* interfaceName,
+                                   VEXListValVEXISpecObject_var& descendants) const = 0;
+};
+
+VEX_INTERFACE(VEXIDescendants);
+
+/// A root from which a feature tree can be shown.
+class VEXINavigateObject : public VEXBaseUnknown {
+public:
+    /// The objects shown below this one, in order: a new list that the caller deletes; null when the object is gone.
+    virtual VEXListValVEXBaseUnknown_var* GetChildren() const = 0;
+
+    /// The object as the feature it is, with a reference added that the caller releases.
+    virtual HRESULT GetSpecObject(VEXISpecObject*& feature) const = 0;
+};
+
+VEX_INTERFACE(VEXINavigateObject);
+
+/// A container of features or of B-rep accesses in a document.
+class VEXIContainer : public VEXBaseUnknown {
+public:
+    /// Number of objects in the container that implement the named interface.
+    virtual int GetMemberCount(const char* interfaceName) const = 0;
+
+    /// Those objects, in order: a new list that the caller deletes.
+    virtual VEXListValVEXBaseUnknown_var* ListMembers(const char* interfaceName) const = 0;
+};
+
+VEX_INTERFACE(VEXIContainer);
+
+/// The containers of a document.
+class VEXIContainerOfDocument : public VEXBaseUnknown {
+public:
+    /// The container of features, with a reference added that the caller releases; null on failure.
+    virtual HRESULT GetSpecContainer(VEXIContainer*& container) const = 0;
+
+    /// The container of B-rep accesses, likewise.
+    virtual HRESULT GetBRepContainer(VEXIContainer*& container) const = 0;
+};
+
+VEX_INTERFACE(VEXIContainerOfDocument);
