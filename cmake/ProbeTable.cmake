@@ -1,4 +1,5 @@
-# The names of all probes, read off the SDK's headers: <build>/generated/ProbeTable.inc, for VEXHost only.
+# The names of all probes, read off the SDK's headers: <build>/generated/ProbeTable.inc, made before anything that
+# sees the headers inside the reference host is compiled.
 set(probe_script ${PROJECT_SOURCE_DIR}/scripts/probe-table)
 if(EXISTS ${probe_script})
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
@@ -11,6 +12,7 @@ if(EXISTS ${probe_script})
         DEPENDS ${probe_script} ${probe_headers}
         COMMENT "Listing the SDK's probes"
         VERBATIM)
-    target_sources(VEXHost PRIVATE ${probe_table})
-    target_include_directories(VEXHost PRIVATE ${HLX_GENERATED_DIR})
+    add_custom_target(VEXProbeTable DEPENDS ${probe_table})
+    target_include_directories(VEXReferenceInternals INTERFACE ${HLX_GENERATED_DIR})
+    add_dependencies(VEXReferenceInternals VEXProbeTable)
 endif()

@@ -7,9 +7,11 @@
 #include "VEXProductStructure.h"
 
 /// A set of an analysis case; a step is one.
-class VEXISamAnalysisSet : public VEXBaseUnknown {
+class VEXISamAnalysisSet : public VEXBaseUnknown
+{
 public:
-    /// Appends the features of a late type that the set holds, in order; an empty text: all of them.
+    /// Appends the features of a late type that the set holds, in order; an empty text: all of
+    /// them.
     virtual HRESULT GetAnalysisFeatures(const VEXUnicodeString& lateType,
                                         VEXListValVEXBaseUnknown_var& features) const = 0;
 };
@@ -17,7 +19,8 @@ public:
 VEX_INTERFACE(VEXISamAnalysisSet);
 
 /// An analysis case: what is solved in one run.
-class VEXISamAnalysisCase : public VEXBaseUnknown {
+class VEXISamAnalysisCase : public VEXBaseUnknown
+{
 public:
     /// Appends the sets of the case, in order.
     virtual HRESULT GetAnalysisSets(VEXListValVEXBaseUnknown_var& sets) const = 0;
@@ -26,7 +29,8 @@ public:
 VEX_INTERFACE(VEXISamAnalysisCase);
 
 /// An analysis model: a finite element model with its cases.
-class VEXISamAnalysisModel : public VEXBaseUnknown {
+class VEXISamAnalysisModel : public VEXBaseUnknown
+{
 public:
     /// Appends the analysis cases of the model, in order.
     virtual HRESULT GetAnalysisCases(VEXListValVEXBaseUnknown_var& cases) const = 0;
@@ -35,21 +39,26 @@ public:
 VEX_INTERFACE(VEXISamAnalysisModel);
 
 /// The documents that an analysis document is linked to.
-class VEXISamDocumentManager : public VEXBaseUnknown {
+class VEXISamDocumentManager : public VEXBaseUnknown
+{
 public:
-    /// Appends the linked documents, opening those not yet open. A link that cannot be opened appends null.
+    /// Appends the linked documents, opening those not yet open. A link that cannot be opened
+    /// appends null.
     virtual HRESULT GetLinkedDocuments(VEXListPtrVEXDocument& documents) const = 0;
 
-    /// Links the analysis document to another open, stored document. @return E_INVALIDARG for one that is not stored
+    /// Links the analysis document to another open, stored document. @return E_INVALIDARG for one
+    /// that is not stored
     virtual HRESULT AddLink(VEXDocument* document) = 0;
 };
 
 VEX_INTERFACE(VEXISamDocumentManager);
 
 /// The analysis manager of a document.
-class VEXISamAnalysisManager : public VEXBaseUnknown {
+class VEXISamAnalysisManager : public VEXBaseUnknown
+{
 public:
-    /// The current analysis model with a reference added that the caller releases; null when there is none.
+    /// The current analysis model with a reference added that the caller releases; null when there
+    /// is none.
     virtual HRESULT GetCurrentAnalysisModel(VEXISamAnalysisModel*& model) const = 0;
 
     /// Appends all analysis models, in order.
@@ -62,7 +71,8 @@ public:
 VEX_INTERFACE(VEXISamAnalysisManager);
 
 /// The container of everything analysis in a document; it is the document's container of features.
-class VEXISamAnalysisContainer : public VEXBaseUnknown {
+class VEXISamAnalysisContainer : public VEXBaseUnknown
+{
 public:
     virtual HRESULT GetAnalysisManager(VEXISamAnalysisManager_var& manager) const = 0;
 };
@@ -70,7 +80,8 @@ public:
 VEX_INTERFACE(VEXISamAnalysisContainer);
 
 /// Analysis access of a document; only analysis documents have it.
-class VEXISamAccess : public VEXBaseUnknown {
+class VEXISamAccess : public VEXBaseUnknown
+{
 public:
     /// The container of features, with a reference added that the caller releases; null on failure.
     virtual HRESULT GetSpecContainer(VEXIContainer*& container) const = 0;
@@ -79,14 +90,16 @@ public:
 VEX_INTERFACE(VEXISamAccess);
 
 /// Search among the objects below an analysis object.
-class VEXISamAnalysisScan : public VEXBaseUnknown {
+class VEXISamAnalysisScan : public VEXBaseUnknown
+{
 public:
     /// Adds a feature below this object, in front of `before`; null: at the end.
     virtual HRESULT AddObject(VEXBaseUnknown* object, VEXBaseUnknown* before) = 0;
 
     virtual HRESULT Reserved2() { return E_NOTIMPL; }
 
-    /// Appends the objects of a late type that stand below this one, down to `depth` levels, nearest first.
+    /// Appends the objects of a late type that stand below this one, down to `depth` levels,
+    /// nearest first.
     virtual HRESULT GetChildren(const VEXUnicodeString& lateType,
                                 VEXListValVEXBaseUnknown_var& objects, int depth) const = 0;
 };
@@ -94,17 +107,19 @@ public:
 VEX_INTERFACE(VEXISamAnalysisScan);
 
 /// Makes features of an analysis model from the loaded catalogues.
-class VEXISamAnalysisModelFactory : public VEXBaseUnknown {
+class VEXISamAnalysisModelFactory : public VEXBaseUnknown
+{
 public:
     virtual HRESULT Reserved1() { return E_NOTIMPL; }
     virtual HRESULT Reserved2() { return E_NOTIMPL; }
     virtual HRESULT Reserved3() { return E_NOTIMPL; }
 
-    /// Makes a feature of a late type. @param name  alias; empty for none @param father  feature to make it under
-    /// @return the feature with a reference that the caller releases; null when the type is unknown or the father is gone
+    /// Makes a feature of a late type. @param name  alias; empty for none @param father  feature to
+    /// make it under
+    /// @return the feature with a reference that the caller releases; null when the type is unknown
+    /// or the father is gone
     virtual VEXBaseUnknown* CreateFeature(const VEXUnicodeString& lateType,
-                                          const VEXUnicodeString& name,
-                                          VEXISpecObject* father) = 0;
+                                          const VEXUnicodeString& name, VEXISpecObject* father) = 0;
 };
 
 VEX_INTERFACE(VEXISamAnalysisModelFactory);

@@ -1,29 +1,34 @@
 // SPDX-License-Identifier: Apache-2.0
 // The base of every object of the platform: counting, queries, run-time class.
 //
-// A component is an object with several interfaces. Each interface is a class derived from VEXBaseUnknown that adds its
-// own operations; a query on any interface of a component reaches every other one. The order of the virtual operations
-// is binary contract: an interface's own operations follow the seventeen of this class.
+// A component is an object with several interfaces. Each interface is a class derived from
+// VEXBaseUnknown that adds its own operations; a query on any interface of a component reaches
+// every other one. The order of the virtual operations is binary contract: an interface's own
+// operations follow the seventeen of this class.
 #pragma once
 
 #include "VEXTypes.h"
 
 class VEXMetaClass;
 
-class VEX_EXPORT VEXBaseUnknown {
+class VEX_EXPORT VEXBaseUnknown
+{
 public:
-    /// Asks the component for the interface `iid`. On success `*object` is that interface with one reference added,
-    /// which the caller releases. Errors: E_POINTER when `object` is null; E_NOINTERFACE (and null in `*object`) when the
-    /// component lacks the interface.
+    /// Asks the component for the interface `iid`. On success `*object` is that interface with one
+    /// reference added, which the caller releases. Errors: E_POINTER when `object` is null;
+    /// E_NOINTERFACE (and null in `*object`) when the component lacks the interface.
     virtual HRESULT QueryInterface(const IID& iid, void** object) const;
 
-    /// Adds a reference (the platform has one thread; counts are plain); answers the new count (for diagnosis only).
+    /// Adds a reference (the platform has one thread; counts are plain); answers the new count (for
+    /// diagnosis only).
     virtual unsigned long AddRef() const;
 
-    /// Drops a reference; the object dies with its last one. Answers the new count (for diagnosis only).
+    /// Drops a reference; the object dies with its last one. Answers the new count (for diagnosis
+    /// only).
     virtual unsigned long Release() const;
 
-    /// The four operations of late-bound calls; no component of this platform offers them: E_NOTIMPL.
+    /// The four operations of late-bound calls; no component of this platform offers them:
+    /// E_NOTIMPL.
     virtual HRESULT GetTypeInfoCount(unsigned int* count) const;
     virtual HRESULT GetTypeInfo(unsigned int index, unsigned long locale, void** typeInfo) const;
     virtual HRESULT GetIDsOfNames(const IID& reserved, char** names, unsigned int count,
@@ -45,10 +50,12 @@ public:
     /// 1 when the run-time class, or one it derives from, bears the name; else 0.
     virtual int IsAKindOf(const char* name) const;
 
-    /// The component behind this interface (not counted); the object itself when it is its own component.
+    /// The component behind this interface (not counted); the object itself when it is its own
+    /// component.
     virtual VEXBaseUnknown* GetImpl() const;
 
-    /// Binds an interface object to its component. Only the component model calls it; other objects ignore it.
+    /// Binds an interface object to its component. Only the component model calls it; other objects
+    /// ignore it.
     virtual void SetImpl(VEXBaseUnknown* component);
 
     /// 1 when there is nothing behind the interface any more (its document was removed); else 0.
@@ -57,7 +64,8 @@ public:
     /// 1 when both are interfaces of one component; else 0.
     virtual int IsEqual(const VEXBaseUnknown* other) const;
 
-    /// Tells a component that its state changes; components of this platform keep no such state: E_NOTIMPL.
+    /// Tells a component that its state changes; components of this platform keep no such state:
+    /// E_NOTIMPL.
     virtual HRESULT ChangeComponentState(int state, const VEXBaseUnknown* origin) const;
 
     /// A new object starts with a count of one. Copying an object never copies its count.
@@ -77,14 +85,16 @@ protected:
     mutable std::uint32_t _count = 1;
 };
 
-/// One line of identity for an interface class, after its definition: its IID, its name at compile time, its handle.
-#define VEX_INTERFACE(Interface)                                                  \
-    inline constexpr IID IID_##Interface = VEXGuidOfName(#Interface);              \
-    template <>                                                                   \
-    struct VEXInterfaceTraits<Interface> {                                        \
-        static constexpr const char* Name = #Interface;                           \
-        static constexpr IID Id = VEXGuidOfName(#Interface);                       \
-    };                                                                            \
+/// One line of identity for an interface class, after its definition: its IID, its name at compile
+/// time, its handle.
+#define VEX_INTERFACE(Interface)                                      \
+    inline constexpr IID IID_##Interface = VEXGuidOfName(#Interface); \
+    template <>                                                       \
+    struct VEXInterfaceTraits<Interface>                              \
+    {                                                                 \
+        static constexpr const char* Name = #Interface;               \
+        static constexpr IID Id = VEXGuidOfName(#Interface);          \
+    };                                                                \
     using Interface##_var = VEXVar<Interface>
 
 template <class Interface>
@@ -97,7 +107,8 @@ class VEXVar;
 inline constexpr IID IID_VEXBaseUnknown = VEXGuidOfName("VEXBaseUnknown");
 
 template <>
-struct VEXInterfaceTraits<VEXBaseUnknown> {
+struct VEXInterfaceTraits<VEXBaseUnknown>
+{
     static constexpr const char* Name = "VEXBaseUnknown";
     static constexpr IID Id = IID_VEXBaseUnknown;
 };

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
-// A document of the session: product, part or analysis. Reached and removed through VEXDocumentServices, which own it.
-// Its contents are reached by queries: VEXISamAccess of an analysis document, VEXIDocRoots of product and part
-// documents, VEXIContainerOfDocument of all three.
+// A document of the session: product, part or analysis. Reached and removed through
+// VEXDocumentServices, which own it. Its contents are reached by queries: VEXISamAccess of an
+// analysis document, VEXIDocRoots of product and part documents, VEXIContainerOfDocument of all
+// three.
 #pragma once
 
 #include "VEXUnicodeString.h"
 #include "VEXVar.h"
 
-class VEXDocument : public VEXBaseUnknown {
+class VEXDocument : public VEXBaseUnknown
+{
 public:
     /// Full path under which the document is stored; empty for a new one that has not been saved.
     virtual VEXUnicodeString StorageName() const = 0;

@@ -9,10 +9,12 @@ class VEXISpecObject;
 VEX_INTERFACE(VEXISpecObject);
 
 /// One attribute of a feature. Owned by the list it came in; see VEXISpecObject::ListAttributes.
-class VEXISpecAttribute : public VEXBaseUnknown {
+class VEXISpecAttribute : public VEXBaseUnknown
+{
 public:
-    /// The object that a reference attribute holds, with a reference added that the caller releases; null for other
-    /// kinds of attribute, for an empty reference and for one whose target was deleted.
+    /// The object that a reference attribute holds, with a reference added that the caller
+    /// releases; null for other kinds of attribute, for an empty reference and for one whose target
+    /// was deleted.
     virtual VEXISpecObject* GetValueObject() const = 0;
 
     virtual VEXUnicodeString GetName() const = 0;
@@ -21,7 +23,8 @@ public:
 VEX_INTERFACE(VEXISpecAttribute);
 
 /// A feature of a document's tree.
-class VEXISpecObject : public VEXBaseUnknown {
+class VEXISpecObject : public VEXBaseUnknown
+{
 public:
     /// The late type: the feature's type name in the catalogue.
     virtual VEXUnicodeString GetType() const = 0;
@@ -29,18 +32,22 @@ public:
     /// The feature it stands under; empty for the root of a container.
     virtual VEXISpecObject_var GetFather() const = 0;
 
-    /// The attributes whose kind has that type name ("VEXISpecObject": references; "boolean", "integer", "double",
-    /// "string", "list", "table", "link"; empty: all), in catalogue order. The two texts are kept for filters by role and by facet: empty.
-    /// @return a new list of counted attributes; the caller releases each and deletes the list. Null when the feature is gone.
+    /// The attributes whose kind has that type name ("VEXISpecObject": references; "boolean",
+    /// "integer", "double", "string", "list", "table", "link"; empty: all), in catalogue order. The
+    /// two texts are kept for filters by role and by facet: empty.
+    /// @return a new list of counted attributes; the caller releases each and deletes the list.
+    /// Null when the feature is gone.
     virtual VEXListPtrVEXISpecAttribute* ListAttributes(const VEXUnicodeString& type,
                                                         const VEXUnicodeString& role,
                                                         const VEXUnicodeString& facet) const = 0;
 };
 
 /// The displayed name of a feature.
-class VEXIAlias : public VEXBaseUnknown {
+class VEXIAlias : public VEXBaseUnknown
+{
 public:
-    /// @return S_OK; E_INVALIDARG for a text that is not valid UTF-8 (the name stays); E_FAIL when the feature is gone
+    /// @return S_OK; E_INVALIDARG for a text that is not valid UTF-8 (the name stays); E_FAIL when
+    /// the feature is gone
     virtual HRESULT SetAlias(const VEXUnicodeString& name) = 0;
 
     /// The name; empty when none was set.
@@ -50,7 +57,8 @@ public:
 VEX_INTERFACE(VEXIAlias);
 
 /// An object whose children of a kind can be listed, at any depth below it.
-class VEXIDescendants : public VEXBaseUnknown {
+class VEXIDescendants : public VEXBaseUnknown
+{
 public:
     /// Appends the descendants that implement the named interface, each before those below it.
     virtual HRESULT GetAllChildren(const char* interfaceName,
@@ -60,9 +68,11 @@ public:
 VEX_INTERFACE(VEXIDescendants);
 
 /// A root from which a feature tree can be shown.
-class VEXINavigateObject : public VEXBaseUnknown {
+class VEXINavigateObject : public VEXBaseUnknown
+{
 public:
-    /// The objects shown below this one, in order: a new list that the caller deletes; null when the object is gone.
+    /// The objects shown below this one, in order: a new list that the caller deletes; null when
+    /// the object is gone.
     virtual VEXListValVEXBaseUnknown_var* GetChildren() const = 0;
 
     /// The object as the feature it is, with a reference added that the caller releases.
@@ -72,7 +82,8 @@ public:
 VEX_INTERFACE(VEXINavigateObject);
 
 /// A container of features or of B-rep accesses in a document.
-class VEXIContainer : public VEXBaseUnknown {
+class VEXIContainer : public VEXBaseUnknown
+{
 public:
     /// Number of objects in the container that implement the named interface.
     virtual int GetMemberCount(const char* interfaceName) const = 0;
@@ -84,7 +95,8 @@ public:
 VEX_INTERFACE(VEXIContainer);
 
 /// The containers of a document.
-class VEXIContainerOfDocument : public VEXBaseUnknown {
+class VEXIContainerOfDocument : public VEXBaseUnknown
+{
 public:
     /// The container of features, with a reference added that the caller releases; null on failure.
     virtual HRESULT GetSpecContainer(VEXIContainer*& container) const = 0;

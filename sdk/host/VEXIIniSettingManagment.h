@@ -4,10 +4,12 @@
 
 #include "VEXVar.h"
 
-class VEXIIniSettingManagment : public VEXBaseUnknown {
+class VEXIIniSettingManagment : public VEXBaseUnknown
+{
 public:
     /// Stores the settings in force in their repository, whole or not at all.
-    /// @return S_OK; E_FAIL with the reason on standard error when they could not be stored (they stay in force)
+    /// @return S_OK; E_FAIL with the reason on standard error when they could not be stored (they
+    /// stay in force)
     virtual HRESULT Commit() = 0;
 };
 

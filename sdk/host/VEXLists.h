@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// Ordered lists and raw collections. Indices start at 1; an index outside 1..Size() yields an empty value, never
-// undefined behaviour. Lists of values copy what they hold (handles count); lists of pointers own nothing.
+// Ordered lists and raw collections. Indices start at 1; an index outside 1..Size() yields an empty
+// value, never undefined behaviour. Lists of values copy what they hold (handles count); lists of
+// pointers own nothing.
 #pragma once
 
 #include "VEXUnicodeString.h"
@@ -10,7 +11,8 @@
 #include <vector>
 
 template <class Value>
-class VEXList {
+class VEXList
+{
 public:
     int Size() const noexcept { return static_cast<int>(_values.size()); }
 
@@ -22,7 +24,10 @@ public:
 
     void Append(Value value) { _values.push_back(std::move(value)); }
 
-    void Append(const VEXList& tail) { _values.insert(_values.end(), tail._values.begin(), tail._values.end()); }
+    void Append(const VEXList& tail)
+    {
+        _values.insert(_values.end(), tail._values.begin(), tail._values.end());
+    }
 
     /// Removes the value at `index` (1-based); outside the list nothing happens.
     void RemovePosition(int index)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Run-time classes and their process-wide registry. The registry owns every meta-class; pointers stay valid to the end.
+// Run-time classes and their process-wide registry. The registry owns every meta-class; pointers
+// stay valid to the end.
 #pragma once
 
 #include "VEXTypes.h"
@@ -12,7 +13,8 @@ enum VEXClassKind : int {
     VEXImplementationClass = 1,
 };
 
-class VEX_EXPORT VEXMetaClass {
+class VEX_EXPORT VEXMetaClass
+{
 public:
     /// The meta-class of that name from the registry, made on first call.
     /// @param name       class name; a null name is no class: null is returned
@@ -20,7 +22,8 @@ public:
     /// @param base       meta-class of the base class, null for the root
     /// @param lateType   late type of the objects, "VEXNull" when they have none
     /// @param framework  component library that holds the class
-    /// A second call with the same name answers the first call's meta-class, whatever its other arguments.
+    /// A second call with the same name answers the first call's meta-class, whatever its other
+    /// arguments.
     static VEXMetaClass* Get(const char* name, int kind, const VEXMetaClass* base,
                              const char* lateType, const char* framework);
 

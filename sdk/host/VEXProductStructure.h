@@ -5,10 +5,11 @@
 #include "VEXFeatures.h"
 
 /// A product: a node of the assembly structure.
-class VEXIProduct : public VEXBaseUnknown {
+class VEXIProduct : public VEXBaseUnknown
+{
 public:
-    /// The children that implement the named interface, in order: a new list that the caller deletes; null when the
-    /// product is gone.
+    /// The children that implement the named interface, in order: a new list that the caller
+    /// deletes; null when the product is gone.
     virtual VEXListValVEXBaseUnknown_var* GetChildren(const char* interfaceName) const = 0;
 
     /// Part number of the product, for example "Bracket".
@@ -18,7 +19,8 @@ public:
 VEX_INTERFACE(VEXIProduct);
 
 /// An object that features of other documents can refer to.
-class VEXILinkableObject : public VEXBaseUnknown {
+class VEXILinkableObject : public VEXBaseUnknown
+{
 public:
     /// The document that holds the object, not counted; null when the object is gone.
     virtual VEXDocument* GetDocument() const = 0;
@@ -27,7 +29,8 @@ public:
 VEX_INTERFACE(VEXILinkableObject);
 
 /// The root objects of a document.
-class VEXIDocRoots : public VEXBaseUnknown {
+class VEXIDocRoots : public VEXBaseUnknown
+{
 public:
     /// A new list that the caller deletes; null when the document is gone.
     virtual VEXListValVEXBaseUnknown_var* GetRoots() const = 0;

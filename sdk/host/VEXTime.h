@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <ctime>
 
-class VEXTime {
+class VEXTime
+{
 public:
-    /// @param seconds  seconds since 1970-01-01 00:00:00 UTC. A moment that the calendar cannot hold gives zero fields.
+    /// @param seconds  seconds since 1970-01-01 00:00:00 UTC. A moment that the calendar cannot
+    /// hold gives zero fields.
     explicit VEXTime(std::int64_t seconds)
     {
         const std::time_t moment = static_cast<std::time_t>(seconds);

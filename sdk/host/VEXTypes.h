@@ -8,7 +8,8 @@
 
 #define VEX_EXPORT __attribute__((visibility("default")))
 
-/// Result of a platform operation: 32 bits, signed, on every system. Negative is failure; zero and above is success.
+/// Result of a platform operation: 32 bits, signed, on every system. Negative is failure; zero and
+/// above is success.
 using HRESULT = std::int32_t;
 
 inline constexpr HRESULT S_OK = 0;
@@ -33,7 +34,8 @@ constexpr bool FAILED(long result)
 }
 
 /// A 128-bit identifier of an interface or a class.
-struct GUID {
+struct GUID
+{
     std::uint64_t High = 0;
     std::uint64_t Low = 0;
 
@@ -43,8 +45,9 @@ struct GUID {
 
 using IID = GUID;
 
-/// The identifier of a name: two FNV-1a hashes of 64 bits, the second one over the name read backwards.
-/// Identifiers are derived from names, at compile time, so that nobody types one and no two texts of one name differ.
+/// The identifier of a name: two FNV-1a hashes of 64 bits, the second one over the name read
+/// backwards. Identifiers are derived from names, at compile time, so that nobody types one and no
+/// two texts of one name differ.
 constexpr GUID VEXGuidOfName(const char* name)
 {
     constexpr std::uint64_t basis = 0xCBF29CE484222325U;

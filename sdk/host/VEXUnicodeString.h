@@ -8,7 +8,8 @@
 #include <string>
 #include <string_view>
 
-class VEXUnicodeString {
+class VEXUnicodeString
+{
 public:
     /// Answer of Compare.
     enum Order : int { Before = 0, After = 1, Identical = 2 };
@@ -20,7 +21,8 @@ public:
 
     explicit VEXUnicodeString(std::string text) : _text(std::move(text)) {}
 
-    /// The text as bytes (UTF-8), ended by a zero; valid until the string changes or dies. Never null.
+    /// The text as bytes (UTF-8), ended by a zero; valid until the string changes or dies. Never
+    /// null.
     const char* ConvertToChar() const noexcept { return _text.c_str(); }
 
     std::string_view View() const noexcept { return _text; }
@@ -40,7 +42,8 @@ public:
         return head.Append(tail);
     }
 
-    /// Compares byte by byte: Identical (2) for identical texts, else whether this text stands Before (0) or After (1).
+    /// Compares byte by byte: Identical (2) for identical texts, else whether this text stands
+    /// Before (0) or After (1).
     int Compare(const VEXUnicodeString& other) const noexcept
     {
         const int order = _text.compare(other._text);
@@ -57,11 +60,12 @@ public:
         return left._text == std::string_view(right == nullptr ? "" : right);
     }
 
-    /// Replaces the first occurrence of `found` by `replacement`. Answers 1 when there was one, else 0; an empty
-    /// `found` occurs nowhere.
+    /// Replaces the first occurrence of `found` by `replacement`. Answers 1 when there was one,
+    /// else 0; an empty `found` occurs nowhere.
     int ReplaceSubString(const VEXUnicodeString& found, const VEXUnicodeString& replacement)
     {
-        const std::size_t position = found._text.empty() ? std::string::npos : _text.find(found._text);
+        const std::size_t position =
+            found._text.empty() ? std::string::npos : _text.find(found._text);
         if (position == std::string::npos) {
             return 0;
         }
@@ -69,7 +73,8 @@ public:
         return 1;
     }
 
-    /// Sets the text to a decimal number. `format` is a printf format for one int; a null one means "%d".
+    /// Sets the text to a decimal number. `format` is a printf format for one int; a null one means
+    /// "%d".
     void BuildFromNum(int number, const char* format = "%d")
     {
         char digits[64];

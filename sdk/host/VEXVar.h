@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-// Reference-counted interface handles. `VEXIAlias_var` is VEXVar<VEXIAlias>, and so on for every interface.
+// Reference-counted interface handles. `VEXIAlias_var` is VEXVar<VEXIAlias>, and so on for every
+// interface.
 //
-// Ownership shows where a handle is made from a pointer: VEXAdopt takes over a reference that the caller owns, VEXShare
-// adds one of its own. Assigning from a handle of another interface casts; a cast that fails leaves the handle empty.
-// From the same or a derived type it only counts.
+// Ownership shows where a handle is made from a pointer: VEXAdopt takes over a reference that the
+// caller owns, VEXShare adds one of its own. Assigning from a handle of another interface casts; a
+// cast that fails leaves the handle empty. From the same or a derived type it only counts.
 #pragma once
 
 #include "VEXBaseUnknown.h"
@@ -11,11 +12,13 @@
 #include <type_traits>
 #include <utility>
 
-/// Ends the process with a message that names the interface: `->` on an empty handle is a programming error.
+/// Ends the process with a message that names the interface: `->` on an empty handle is a
+/// programming error.
 [[noreturn]] VEX_EXPORT void VEXUseOfEmptyHandle(const char* interfaceName);
 
 template <class Interface>
-class VEXVar {
+class VEXVar
+{
 public:
     VEXVar() noexcept = default;
     VEXVar(std::nullptr_t) noexcept {}
@@ -31,8 +34,7 @@ public:
 
     /// Casts. Empty when `other` is empty or its component lacks the interface.
     template <class Other>
-        requires(!std::is_same_v<Other, Interface>)
-    VEXVar(const VEXVar<Other>& other)
+    requires(!std::is_same_v<Other, Interface>) VEXVar(const VEXVar<Other>& other)
     {
         if constexpr (std::is_base_of_v<Interface, Other>) {
             _pointer = other.Get();

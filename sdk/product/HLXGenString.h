@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-class HLXGenString {
+class HLXGenString
+{
 public:
     /// The text, ended by a zero; valid until it changes or dies. Never null.
     const char* c_str() const noexcept { return _text.c_str(); }

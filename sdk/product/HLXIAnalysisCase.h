@@ -5,9 +5,11 @@
 #include "VEXAnalysisModel.h"
 
 /// An analysis case of the product.
-class HLXIAnalysisCase : public VEXBaseUnknown {
+class HLXIAnalysisCase : public VEXBaseUnknown
+{
 public:
-    /// Kind of analysis that the case is meant for. Stored in the case; every kind takes every step.
+    /// Kind of analysis that the case is meant for. Stored in the case; every kind takes every
+    /// step.
     enum analysisTypeEnum : int {
         StructuralAnalysis = 0,
         ThermalAnalysis = 1,
@@ -22,12 +24,16 @@ public:
 VEX_INTERFACE(HLXIAnalysisCase);
 
 /// Factory of analysis cases; component "HLXHacAnalysisCaseFact".
-class HLXIHacAnalysisCaseFact : public VEXBaseUnknown {
+class HLXIHacAnalysisCaseFact : public VEXBaseUnknown
+{
 public:
-    /// Makes a case at the end of the document's current model, with its simulation history, initial step, job
-    /// container and condition containers. Its alias is "Analysis Case." and its number.
-    /// @param analysisCase  receives the case with a reference added that the caller releases; null on failure
-    /// @return S_OK; E_INVALIDARG for a document that is not an open analysis document or an unknown type; E_FAIL
+    /// Makes a case at the end of the document's current model, with its simulation history,
+    /// initial step, job container and condition containers. Its alias is "Analysis Case." and its
+    /// number.
+    /// @param analysisCase  receives the case with a reference added that the caller releases; null
+    /// on failure
+    /// @return S_OK; E_INVALIDARG for a document that is not an open analysis document or an
+    /// unknown type; E_FAIL
     virtual HRESULT CreateAnalysisCase(VEXISamAnalysisCase*& analysisCase, VEXDocument* document,
                                        HLXIAnalysisCase::analysisTypeEnum type) = 0;
 };
@@ -35,9 +41,11 @@ public:
 VEX_INTERFACE(HLXIHacAnalysisCaseFact);
 
 /// Factory of element behaviours; component "HLXElementBehaviorFact".
-class HLXIElementBehaviorFact : public VEXBaseUnknown {
+class HLXIElementBehaviorFact : public VEXBaseUnknown
+{
 public:
-    /// Makes the element behaviour of a case (feature "HLXElementBehaviorLT"); a second call for a case keeps the first.
+    /// Makes the element behaviour of a case (feature "HLXElementBehaviorLT"); a second call for a
+    /// case keeps the first.
     /// @return S_OK; E_INVALIDARG for a null case or one of another platform object; E_FAIL
     virtual HRESULT CreateElementBehavior(VEXISamAnalysisCase*& analysisCase) = 0;
 };

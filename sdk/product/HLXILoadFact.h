@@ -7,9 +7,11 @@
 /// Each operation makes one kind of load in a step of the document.
 /// @param load  receives the new load
 /// @param document, step  where to make it
-/// @return S_OK; E_INVALIDARG for a document or step that is not open or not of one another; E_FAIL; E_NOTIMPL for a
+/// @return S_OK; E_INVALIDARG for a document or step that is not open or not of one another;
+/// E_FAIL; E_NOTIMPL for a
 ///         kind that this release cannot make
-class HLXILoadFact : public VEXBaseUnknown {
+class HLXILoadFact : public VEXBaseUnknown
+{
 public:
     virtual HRESULT CreatePressure(VEXISpecObject_var& load, VEXDocument* document,
                                    VEXISamAnalysisSet_var& step) = 0;

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
-// General settings of the analysis workbench: basic units and options. Changes are in force at once in this process and
-// stored by VEXIIniSettingManagment::Commit, which the same controller offers.
+// General settings of the analysis workbench: basic units and options. Changes are in force at once
+// in this process and stored by VEXIIniSettingManagment::Commit, which the same controller offers.
 #pragma once
 
 #include "VEXUnicodeString.h"
 #include "VEXVar.h"
 
-class HLXIZPKWBGeneralSettingAtt : public VEXBaseUnknown {
+class HLXIZPKWBGeneralSettingAtt : public VEXBaseUnknown
+{
 public:
-    /// Units by their symbols. A setter refuses a text that is no unit of its quantity, the empty text too: E_INVALIDARG.
+    /// Units by their symbols. A setter refuses a text that is no unit of its quantity, the empty
+    /// text too: E_INVALIDARG.
     virtual HRESULT GetBasicUnitLength(VEXUnicodeString& unit) const = 0;
     virtual HRESULT SetBasicUnitLength(const VEXUnicodeString& unit) = 0;
     virtual HRESULT GetBasicUnitMass(VEXUnicodeString& unit) const = 0;
@@ -26,6 +28,8 @@ public:
 VEX_INTERFACE(HLXIZPKWBGeneralSettingAtt);
 
 /// The controller of the general settings, asked for the interface `iid`.
-/// @param controller  receives the interface with a reference added that the caller releases; null on failure
-/// @return S_OK; E_NOINTERFACE; E_FAIL with the reason on standard error when the settings cannot be read
+/// @param controller  receives the interface with a reference added that the caller releases; null
+/// on failure
+/// @return S_OK; E_NOINTERFACE; E_FAIL with the reason on standard error when the settings cannot
+/// be read
 VEX_EXPORT HRESULT GetZPKWBGeneralSettingCtrl(const IID& iid, void** controller);

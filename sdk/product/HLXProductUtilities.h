@@ -1,30 +1,38 @@
 // SPDX-License-Identifier: Apache-2.0
-// Free-standing services of the product: what a document holds, its feature tree as text, its data version.
+// Free-standing services of the product: what a document holds, its feature tree as text, its data
+// version.
 #pragma once
 
 #include "HLXGenString.h"
 #include "HLXIAnalysisCase.h"
 
-/// Puts the text of the feature tree below `root` at the end of `text`: one line a feature, as docs/tree-dump.md says.
+/// Puts the text of the feature tree below `root` at the end of `text`: one line a feature, as
+/// docs/tree-dump.md says.
 /// @param depth  levels by which the text is indented
 /// @return S_OK; E_INVALIDARG for a null root; E_FAIL when the root's document is gone
 VEX_EXPORT HRESULT DumpFeatureTree(VEXINavigateObject* root, int depth, HLXGenString& text);
 
-class VEX_EXPORT HLXAnalysisDocUtils {
+class VEX_EXPORT HLXAnalysisDocUtils
+{
 public:
-    /// The analysis manager of an open analysis document. @return S_OK; E_INVALIDARG for no open document; E_FAIL
-    static HRESULT GetAnalysisManager(VEXISamAnalysisManager_var& manager, const VEXDocument* document);
+    /// The analysis manager of an open analysis document. @return S_OK; E_INVALIDARG for no open
+    /// document; E_FAIL
+    static HRESULT GetAnalysisManager(VEXISamAnalysisManager_var& manager,
+                                      const VEXDocument* document);
 
     /// Appends the analysis cases of all models of the document, in order.
     static HRESULT GetAllAnalysisCases(VEXListValVEXBaseUnknown_var& cases, VEXDocument* document);
 
-    /// The document that holds an analysis case, not counted; null for an empty handle or a case whose document is gone.
+    /// The document that holds an analysis case, not counted; null for an empty handle or a case
+    /// whose document is gone.
     static VEXDocument* GetDocument(const VEXISamAnalysisCase_var& analysisCase);
 };
 
-class VEX_EXPORT HLXZPKVersionManager {
+class VEX_EXPORT HLXZPKVersionManager
+{
 public:
-    /// Brings the data of an older document up to this release, step by step; a current one is left as it is.
+    /// Brings the data of an older document up to this release, step by step; a current one is left
+    /// as it is.
     /// @param mode  0: quietly; 1: each step is told on standard error
     /// @return S_OK; E_INVALIDARG for no open analysis document; a failing step's code
     static HRESULT HandleZPKVersioning(VEXDocument* document, int mode);

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: Apache-2.0
+// The library's messages on standard output: bytes as they are, whatever locale, width or flags the
+// stream was left with.
+#pragma once
+
+#include "VEXUnicodeString.h"
+
+#include <iostream>
+
+namespace HLXConsole {
+
+inline void Write(std::string_view text)
+{
+    std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
+}
+
+inline std::string_view TextOf(const char* text)
+{
+    return text == nullptr ? std::string_view() : std::string_view(text);
+}
+
+inline std::string_view TextOf(const std::string& text)
+{
+    return text;
+}
+
+inline std::string_view TextOf(const VEXUnicodeString& text)
+{
+    return text.View();
+}
+
+/// Prints the texts one after the other, without an end of line of its own. Null texts are empty.
+template <class... Texts>
+void Print(const Texts&... texts)
+{
+    (Write(TextOf(texts)), ...);
+}
+
+/// For the messages that are flushed; the others end with "\n".
+inline void EndLineAndFlush()
+{
+    std::cout << std::endl;
+}
+
+}  // namespace HLXConsole
