@@ -10,8 +10,9 @@
 class VEXISamAnalysisSet : public VEXBaseUnknown
 {
 public:
-    /// Appends the features of a late type that the set holds, in order; an empty text: all of
-    /// them.
+    /// Appends the features of a late type, or of one that extends it, that stand below the set at
+    /// any depth, each before those below it; an empty text: all of them.
+    /// @return S_OK; E_FAIL when the set is gone
     virtual HRESULT GetAnalysisFeatures(const VEXUnicodeString& lateType,
                                         VEXListValVEXBaseUnknown_var& features) const = 0;
 };
@@ -46,8 +47,8 @@ public:
     /// appends null.
     virtual HRESULT GetLinkedDocuments(VEXListPtrVEXDocument& documents) const = 0;
 
-    /// Links the analysis document to another open, stored document. @return E_INVALIDARG for one
-    /// that is not stored
+    /// Links the analysis document to another open, stored document; a second time changes nothing.
+    /// @return S_OK; E_INVALIDARG for one that is not open or not stored, and for itself; E_FAIL
     virtual HRESULT AddLink(VEXDocument* document) = 0;
 };
 
@@ -57,8 +58,8 @@ VEX_INTERFACE(VEXISamDocumentManager);
 class VEXISamAnalysisManager : public VEXBaseUnknown
 {
 public:
-    /// The current analysis model with a reference added that the caller releases; null when there
-    /// is none.
+    /// The current analysis model with a reference added that the caller releases; null, and
+    /// E_FAIL, when there is none.
     virtual HRESULT GetCurrentAnalysisModel(VEXISamAnalysisModel*& model) const = 0;
 
     /// Appends all analysis models, in order.
@@ -93,13 +94,17 @@ VEX_INTERFACE(VEXISamAccess);
 class VEXISamAnalysisScan : public VEXBaseUnknown
 {
 public:
-    /// Adds a feature below this object, in front of `before`; null: at the end.
+    /// Puts a feature of the document below this object, in front of `before`, which stands there;
+    /// null: at the end.
+    /// @return S_OK; E_INVALIDARG for a feature of another document, a container of the document,
+    /// or one that this object stands below; E_FAIL when this object is gone
     virtual HRESULT AddObject(VEXBaseUnknown* object, VEXBaseUnknown* before) = 0;
 
     virtual HRESULT Reserved2() { return E_NOTIMPL; }
 
-    /// Appends the objects of a late type that stand below this one, down to `depth` levels,
-    /// nearest first.
+    /// Appends the objects of a late type, or of one that extends it, that stand below this one,
+    /// down to `depth` levels, nearest first; an empty text: all of them.
+    /// @return S_OK, also when there is none; E_FAIL when this object is gone
     virtual HRESULT GetChildren(const VEXUnicodeString& lateType,
                                 VEXListValVEXBaseUnknown_var& objects, int depth) const = 0;
 };

@@ -11,6 +11,7 @@ public:
     explicit VEXSession(const char* name);
     ~VEXSession() override;
     const char* GetName() const noexcept { return _name; }
+    VEXMetaClass* GetMetaObject() const override;
 
 private:
     VEXSession(const VEXSession&) = delete;

@@ -9,8 +9,12 @@
 class HLXIZPKWBGeneralSettingAtt : public VEXBaseUnknown
 {
 public:
-    /// Units by their symbols. A setter refuses a text that is no unit of its quantity, the empty
-    /// text too: E_INVALIDARG.
+    /// Units by their symbols; the first is the default.
+    ///   length       mm, um, cm, m, km, in, ft, yd, mi
+    ///   mass         kg, mg, g, t, oz, lb, slug
+    ///   time         s, us, ms, min, h
+    ///   temperature  K, C, F, R
+    /// A setter refuses a text that is no unit of its quantity, the empty text too: E_INVALIDARG.
     virtual HRESULT GetBasicUnitLength(VEXUnicodeString& unit) const = 0;
     virtual HRESULT SetBasicUnitLength(const VEXUnicodeString& unit) = 0;
     virtual HRESULT GetBasicUnitMass(VEXUnicodeString& unit) const = 0;
@@ -20,7 +24,7 @@ public:
     virtual HRESULT GetBasicUnitTemperature(VEXUnicodeString& unit) const = 0;
     virtual HRESULT SetBasicUnitTemperature(const VEXUnicodeString& unit) = 0;
 
-    /// 1: input files are written flat; 0: structured.
+    /// 1 (the default, as any other value set but 0): input files are written flat; 0: structured.
     virtual HRESULT GetWriteFlatInputFileFlag(unsigned char& flag) const = 0;
     virtual HRESULT SetWriteFlatInputFileFlag(unsigned char flag) = 0;
 };

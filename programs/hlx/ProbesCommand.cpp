@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+// `hlx probes`: the names that traces show and faults take.
+#include "Commands.h"
+#include "host/component/ComponentTypes.h"
+#include "host/system/Probes.h"
+
+#include <fmt/format.h>
+
+namespace hlx {
+
+namespace {
+
+void PrintCasts()
+{
+    for (const vex::ComponentType* type : vex::ComponentTypes::Instance().All()) {
+        for (const vex::InterfaceEntry& entry : type->interfaces) {
+            fmt::print("cast:{}->{}  {}\n", type->name, entry.name,
+                       fmt::join(vex::probe::WaysToBreak("cast:*"), " "));
+        }
+    }
+}
+
+}  // namespace
+
+void AddProbesCommand(CLI::App& program, int& exitCode)
+{
+    CLI::App* const command = program.add_subcommand(
+        "probes",
+        "List every platform operation that can be traced and broken, with the ways to break it");
+    static bool casts = false;
+    command->add_flag("--casts", casts, "List the casts (cast:COMPONENT->INTERFACE) too");
+    command->callback([&exitCode] {
+        for (const std::string& name : vex::probe::AllNames()) {
+            fmt::print("{}  {}\n", name, fmt::join(vex::probe::WaysToBreak(name), " "));
+        }
+        if (casts) {
+            PrintCasts();
+        }
+        exitCode = Done;
+    });
+}
+
+}  // namespace hlx

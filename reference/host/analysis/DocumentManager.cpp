@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: Apache-2.0
+// The documents that an analysis document is linked to. A link is a feature below the manager, so
+// that links keep their order and are stored like everything else.
+#include "host/analysis/AnalysisAdapters.h"
+#include "host/analysis/AnalysisObjects.h"
+#include "host/feature/DocumentSession.h"
+#include "host/system/Probe.h"
+
+#include <cstdio>
+
+namespace vex {
+
+namespace {
+
+constexpr const char* linkType = "VEXSamDocumentLink";
+
+/// The path of a linked document; empty for another feature and for a link to nothing.
+std::string LinkedPath(const Feature& feature)
+{
+    return feature.Kind().IsKindOf(linkType) ? feature.GetAs<DocumentLink>("Document").path : "";
+}
+
+}  // namespace
+
+HRESULT DocumentManagerAdapter::GetLinkedDocuments(VEXListPtrVEXDocument& documents) const
+{
+    return Probe<"VEXISamDocumentManager::GetLinkedDocuments">(
+        [&]() -> HRESULT {
+            if (Self().Tree() == nullptr) {
+                return E_FAIL;
+            }
+            for (const Feature* const child : Self().Children()) {
+                const std::string path = LinkedPath(*child);
+                if (path.empty()) {
+                    continue;
+                }
+                Document* document = nullptr;
+                std::string error;
+                const bool readOnly = Self().Tree()->Owner().IsReadOnly();
+                if (FAILED(DocumentSession::Instance().Open(path, readOnly, document, error))) {
+                    std::fprintf(stderr, "vex: linked document: %s\n", error.c_str());
+                    document = nullptr;
+                }
+                documents.Append(document == nullptr ? nullptr : document->AsVEXDocument());
+            }
+            return S_OK;
+        },
+        Out(documents));
+}
+
+HRESULT DocumentManagerAdapter::AddLink(VEXDocument* document)
+{
+    return Probe<"VEXISamDocumentManager::AddLink">(
+        [&]() -> HRESULT {
+            FeatureTree* const tree = Self().Tree();
+            if (tree == nullptr) {
+                return E_FAIL;
+            }
+            const Document* const target = Document::From(document);
+            if (target == nullptr || target->Path().empty() || target == &tree->Owner()) {
+                return E_INVALIDARG;
+            }
+            for (const Feature* const child : Self().Children()) {
+                if (LinkedPath(*child) == target->Path()) {
+                    return S_OK;
+                }
+            }
+            Feature& link = tree->Create(LateTypes::Instance().Require(linkType), &Self());
+            return link.Set("Document", Boxed<DocumentLink>(DocumentLink{target->Path()}));
+        },
+        In(DocumentArgument{document}));
+}
+
+}  // namespace vex

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: Apache-2.0
+// Follows the links between open documents.
+#include "host/feature/DocumentLinks.h"
+
+#include "host/feature/DocumentPath.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace vex {
+
+namespace {
+
+using Links = std::unordered_map<Document*, std::vector<Document*>>;
+
+/// The open documents that each open document links to.
+Links LinksAmong(const std::vector<Document*>& open)
+{
+    std::unordered_map<std::string, Document*> stored;
+    for (Document* const document : open) {
+        if (!document->Path().empty()) {
+            stored.emplace(DocumentPathIdentity(document->Path()), document);
+        }
+    }
+    Links links;
+    for (Document* const document : open) {
+        for (const std::string& path : LinkedPaths(*document)) {
+            const auto target = stored.find(DocumentPathIdentity(path));
+            if (target != stored.end() && target->second != document) {
+                links[document].push_back(target->second);
+            }
+        }
+    }
+    return links;
+}
+
+using DocumentSet = std::unordered_set<const Document*>;
+
+/// Adds to `reached` what can be reached from `starts` without entering what is in it already.
+void Reach(Links& links, std::vector<Document*> starts, DocumentSet& reached)
+{
+    while (!starts.empty()) {
+        Document* const document = starts.back();
+        starts.pop_back();
+        if (reached.insert(document).second) {
+            const std::vector<Document*>& next = links[document];
+            starts.insert(starts.end(), next.begin(), next.end());
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> LinkedPaths(const Document& document)
+{
+    std::unordered_map<const LateType*, bool> hasLinks;
+    std::unordered_set<std::string_view> seen;
+    std::vector<std::string> paths;
+    const auto visit = [&](const Feature& feature, int) {
+        const auto [kind, isNew] = hasLinks.try_emplace(&feature.Kind());
+        if (isNew) {
+            kind->second = std::ranges::any_of(feature.Kind().attributes,
+                                               [](const AttributeDefinition& attribute) {
+                                                   return attribute.kind == ValueKind::DocumentLink;
+                                               });
+        }
+        if (!kind->second) {
+            return;
+        }
+        feature.ForEachSet([&](int, const Value& value) {
+            const auto* const link = std::get_if<Boxed<DocumentLink>>(&value);
+            if (link != nullptr && !(*link)->path.empty() && seen.insert((*link)->path).second) {
+                paths.push_back((*link)->path);
+            }
+        });
+    };
+    for (Feature* const root : document.Tree().Roots()) {
+        FeatureTree::Walk(*root, visit);
+    }
+    return paths;
+}
+
+Removal PlanRemoval(const std::vector<Document*>& open, Document& removed)
+{
+    Links links = LinksAmong(open);
+    DocumentSet below;
+    Reach(links, {&removed}, below);
+
+    // What was there without the removed document keeps what it links to.
+    std::vector<Document*> others;
+    Removal removal;
+    for (Document* const document : open) {
+        if (!below.contains(document)) {
+            others.push_back(document);
+            if (std::ranges::find(links[document], &removed) != links[document].end()) {
+                removal.user = document;
+            }
+        }
+    }
+    DocumentSet kept{&removed};
+    Reach(links, others, kept);
+    for (Document* const document : open) {
+        if (document == &removed || !kept.contains(document)) {
+            removal.going.push_back(document);
+        }
+    }
+    return removal;
+}
+
+}  // namespace vex

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which documents link to which.
+#pragma once
+
+#include "host/feature/Document.h"
+
+#include <string>
+#include <vector>
+
+namespace vex {
+
+/// The paths of the documents that a document links to, each once, in the order of its features.
+VEX_EXPORT std::vector<std::string> LinkedPaths(const Document& document);
+
+/// What the removal of one document means to the others.
+struct Removal
+{
+    /// It and those of `open` that no other document needs any more: reached through it only.
+    std::vector<Document*> going;
+    /// One that stays and links to the removed one; null when there is none.
+    const Document* user = nullptr;
+};
+
+/// @param open  all documents of the session, `removed` among them
+Removal PlanRemoval(const std::vector<Document*>& open, Document& removed);
+
+}  // namespace vex

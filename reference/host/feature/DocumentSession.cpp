@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: Apache-2.0
+// Opens, makes, stores and removes documents.
+#include "host/feature/DocumentSession.h"
+
+#include "host/feature/DocumentLinks.h"
+#include "host/feature/DocumentPath.h"
+#include "host/feature/DocumentStorage.h"
+#include "host/system/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+namespace vex {
+
+namespace {
+
+using system::Quoted;
+
+DocumentSession::StructureMaker& Maker(DocumentType type)
+{
+    static std::array<DocumentSession::StructureMaker, 3> makers{};
+    return makers[static_cast<std::size_t>(type)];
+}
+
+std::string NameOf(const Document& document)
+{
+    return document.Path().empty()
+               ? std::string("a new document of type ") + Document::TypeName(document.DocType())
+               : Quoted(document.Path());
+}
+
+}  // namespace
+
+DocumentSession& DocumentSession::Instance()
+{
+    // Never destroyed: handles of static objects may outlive any static session.
+    static DocumentSession* const session = new DocumentSession;
+    return *session;
+}
+
+void DocumentSession::SetStructure(DocumentType type, StructureMaker maker)
+{
+    Maker(type) = maker;
+}
+
+DocumentHolder DocumentSession::Make(DocumentType type)
+{
+    DocumentHolder document(new Document(type));
+    if (const StructureMaker make = Maker(type)) {
+        make(*document);
+    }
+    return document;
+}
+
+bool DocumentSession::IsOpen(const Document* document) const noexcept
+{
+    return std::ranges::find(_documents, document) != _documents.end();
+}
+
+Document* DocumentSession::Find(std::string_view path) const
+{
+    std::string ignored;
+    const std::string absolute = AbsoluteDocumentPath(path, ignored);
+    if (absolute.empty() || _documents.empty()) {
+        return nullptr;
+    }
+    const auto same = std::ranges::find(_documents, absolute, &Document::Path);
+    if (same != _documents.end()) {
+        return *same;
+    }
+    const std::string identity = DocumentPathIdentity(absolute);
+    for (Document* const document : _documents) {
+        if (!document->Path().empty() && DocumentPathIdentity(document->Path()) == identity) {
+            return document;
+        }
+    }
+    return nullptr;
+}
+
+HRESULT DocumentSession::Open(std::string_view path, bool readOnly, Document*& document,
+                              std::string& error)
+{
+    document = nullptr;
+    const std::string absolute = AbsoluteDocumentPath(path, error);
+    if (absolute.empty()) {
+        return E_INVALIDARG;
+    }
+    if (Document* const open = Find(absolute)) {
+        open->SetReadOnly(open->IsReadOnly() && readOnly);
+        document = open;
+        return S_OK;
+    }
+    DocumentHolder loaded = LoadDocument(absolute, error);
+    if (loaded == nullptr) {
+        return E_FAIL;
+    }
+    loaded->SetReadOnly(readOnly);
+    _documents.push_back(loaded.get());
+    document = loaded.release();
+    return S_OK;
+}
+
+Document* DocumentSession::OpenLinked(std::string_view path, std::string& error)
+{
+    Document* document = Find(path);
+    if (document == nullptr) {
+        Open(path, false, document, error);
+    }
+    return document;
+}
+
+HRESULT DocumentSession::New(std::string_view type, Document*& document, std::string& error)
+{
+    document = nullptr;
+    const std::optional<DocumentType> known = Document::TypeFromText(type);
+    if (!known) {
+        error = Quoted(type) +
+                ": no document type. Give VEXAnalysis, VEXProduct or VEXPart, or a name that ends "
+                "in one of them.";
+        return E_INVALIDARG;
+    }
+    _documents.push_back(Make(*known).release());
+    document = _documents.back();
+    return S_OK;
+}
+
+HRESULT DocumentSession::Save(Document& document, std::string& error)
+{
+    if (document.IsReadOnly()) {
+        error = NameOf(document) + ": opened read-only. Store it under another path.";
+        return E_ACCESSDENIED;
+    }
+    if (document.Path().empty()) {
+        error = NameOf(document) + ": it has no path yet. Store it under a path first.";
+        return E_FAIL;
+    }
+    return SaveDocument(document, document.Path(), error) ? S_OK : E_FAIL;
+}
+
+HRESULT DocumentSession::SaveAs(Document& document, std::string_view path, std::string_view type,
+                                bool replaceExisting, std::string& error)
+{
+    const std::string absolute = AbsoluteDocumentPath(path, error);
+    if (absolute.empty()) {
+        return E_INVALIDARG;
+    }
+    if (!type.empty() && Document::TypeFromText(type) != document.DocType()) {
+        error = NameOf(document) + ": it cannot be stored as " + Quoted(type) +
+                ". Leave the type empty, or give " + Document::TypeName(document.DocType()) + ".";
+        return E_INVALIDARG;
+    }
+    if (const Document* const open = Find(absolute); open == &document && document.IsReadOnly()) {
+        error = NameOf(document) + ": opened read-only. Store it under another path.";
+        return E_ACCESSDENIED;
+    } else if (open != nullptr && open != &document) {
+        error = Quoted(absolute) +
+                ": another open document is stored there. Remove that document first.";
+        return E_FAIL;
+    }
+    std::error_code code;
+    if (!replaceExisting &&
+        std::filesystem::exists(std::filesystem::symlink_status(absolute, code))) {
+        error = Quoted(absolute) +
+                ": there is such a file already. Give another path, or allow it to be replaced.";
+        return E_FAIL;
+    }
+    if (!SaveDocument(document, absolute, error)) {
+        return E_FAIL;
+    }
+    document.SetPath(absolute);
+    document.SetReadOnly(false);
+    return S_OK;
+}
+
+HRESULT DocumentSession::Remove(Document& document, bool force, std::string& error)
+{
+    const Removal removal = PlanRemoval(_documents, document);
+    if (removal.user != nullptr && !force) {
+        error = NameOf(document) + ": " + NameOf(*removal.user) +
+                " links to it. Remove that document first, or force the removal.";
+        return E_FAIL;
+    }
+    std::erase_if(_documents, [&](const Document* open) {
+        return std::ranges::find(removal.going, open) != removal.going.end();
+    });
+    for (Document* const going : removal.going) {
+        going->Close();
+        going->KeepByHost(false);
+        going->Release();
+    }
+    return S_OK;
+}
+
+}  // namespace vex

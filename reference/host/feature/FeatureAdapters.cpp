@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: Apache-2.0
+// Features through their interfaces. A feature that is gone (deleted, or its document removed)
+// answers failure or nothing.
+#include "host/feature/FeatureAdapters.h"
+
+#include "host/feature/FeatureTree.h"
+#include "host/feature/SpecAttribute.h"
+#include "host/system/Probe.h"
+
+namespace vex {
+
+namespace {
+
+/// Visits what stands below `root` and has the interface of that name.
+template <class Visitor>
+void ForEachMember(const Feature& root, const char* interfaceName, Visitor visit)
+{
+    if (root.Tree() == nullptr || interfaceName == nullptr) {
+        return;
+    }
+    const IID iid = VEXGuidOfName(interfaceName);
+    FeatureTree::Walk(const_cast<Feature&>(root), [&](Feature& feature, int depth) {
+        if (depth > 0 && feature.Type().Find(iid) != nullptr) {
+            visit(feature);
+        }
+    });
+}
+
+}  // namespace
+
+VEXISpecObject_var AsSpecObject(const Feature* feature)
+{
+    return feature == nullptr ? VEXISpecObject_var() : VEXShare(feature->Face<VEXISpecObject>());
+}
+
+void AppendMembers(const Feature& root, const char* interfaceName,
+                   VEXListValVEXISpecObject_var& members)
+{
+    ForEachMember(root, interfaceName,
+                  [&](const Feature& feature) { members.Append(AsSpecObject(&feature)); });
+}
+
+// ---- VEXISpecObject ----
+
+VEXUnicodeString SpecObjectAdapter::GetType() const
+{
+    return Probe<"VEXISpecObject::GetType">([&] {
+        return Self().Tree() == nullptr ? VEXUnicodeString() : VEXUnicodeString(Self().Kind().name);
+    });
+}
+
+VEXISpecObject_var SpecObjectAdapter::GetFather() const
+{
+    return Probe<"VEXISpecObject::GetFather">([&] { return AsSpecObject(Self().Parent()); });
+}
+
+VEXListPtrVEXISpecAttribute* SpecObjectAdapter::ListAttributes(const VEXUnicodeString& type,
+                                                               const VEXUnicodeString& role,
+                                                               const VEXUnicodeString& facet) const
+{
+    return Probe<"VEXISpecObject::ListAttributes">(
+        [&]() -> VEXListPtrVEXISpecAttribute* {
+            if (Self().Tree() == nullptr) {
+                return nullptr;
+            }
+            auto* const list = new VEXListPtrVEXISpecAttribute;
+            int index = 0;
+            for (const AttributeDefinition& attribute : Self().Kind().attributes) {
+                if (type.IsEmpty() || type.View() == TypeNameOf(attribute.kind)) {
+                    list->Append((new SpecAttribute(Self(), index))->Face<VEXISpecAttribute>());
+                }
+                ++index;
+            }
+            return list;
+        },
+        In(type), In(role), In(facet));
+}
+
+// ---- VEXIAlias ----
+
+HRESULT AliasAdapter::SetAlias(const VEXUnicodeString& name)
+{
+    return Probe<"VEXIAlias::SetAlias">([&] { return Self().SetAlias(name.View()); }, In(name));
+}
+
+VEXUnicodeString AliasAdapter::GetAlias() const
+{
+    return Probe<"VEXIAlias::GetAlias">(
+        [&] { return VEXUnicodeString(std::string(Self().Alias())); });
+}
+
+// ---- VEXINavigateObject ----
+
+VEXListValVEXBaseUnknown_var* NavigateAdapter::GetChildren() const
+{
+    return Probe<"VEXINavigateObject::GetChildren">([&]() -> VEXListValVEXBaseUnknown_var* {
+        if (Self().Tree() == nullptr) {
+            return nullptr;
+        }
+        auto* const children = new VEXListValVEXBaseUnknown_var;
+        for (const Feature* const child : Self().Children()) {
+            if (const VEXISpecObject_var object = AsSpecObject(child)) {
+                children->Append(object);
+            }
+        }
+        return children;
+    });
+}
+
+HRESULT NavigateAdapter::GetSpecObject(VEXISpecObject*& feature) const
+{
+    return Probe<"VEXINavigateObject::GetSpecObject">(
+        [&] {
+            feature = Self().Tree() == nullptr ? nullptr : AsSpecObject(&Self()).Detach();
+            return feature == nullptr ? E_FAIL : S_OK;
+        },
+        Out(feature));
+}
+
+// ---- VEXIDescendants ----
+
+HRESULT DescendantsAdapter::GetAllChildren(const char* interfaceName,
+                                           VEXListValVEXISpecObject_var& descendants) const
+{
+    return Probe<"VEXIDescendants::GetAllChildren">(
+        [&] {
+            if (Self().Tree() == nullptr) {
+                return E_FAIL;
+            }
+            AppendMembers(Self(), interfaceName, descendants);
+            return S_OK;
+        },
+        In(interfaceName), Out(descendants));
+}
+
+// ---- VEXIContainer ----
+
+int ContainerAdapter::GetMemberCount(const char* interfaceName) const
+{
+    return Probe<"VEXIContainer::GetMemberCount">(
+        [&] {
+            int count = 0;
+            ForEachMember(Self(), interfaceName, [&](const Feature&) { ++count; });
+            return count;
+        },
+        In(interfaceName));
+}
+
+VEXListValVEXBaseUnknown_var* ContainerAdapter::ListMembers(const char* interfaceName) const
+{
+    return Probe<"VEXIContainer::ListMembers">(
+        [&]() -> VEXListValVEXBaseUnknown_var* {
+            if (Self().Tree() == nullptr) {
+                return nullptr;
+            }
+            auto* const members = new VEXListValVEXBaseUnknown_var;
+            ForEachMember(Self(), interfaceName, [&](Feature& feature) {
+                members->Append(VEXShare<VEXBaseUnknown>(&feature));
+            });
+            return members;
+        },
+        In(interfaceName));
+}
+
+// ---- rows ----
+
+namespace {
+
+constexpr VEXInterfaceRow featureRows[] = {InterfaceRow<SpecObjectAdapter>(),
+                                           InterfaceRow<AliasAdapter>()};
+constexpr VEXInterfaceRow containerRows[] = {InterfaceRow<ContainerAdapter>(),
+                                             InterfaceRow<DescendantsAdapter>()};
+constexpr VEXInterfaceRow specAttributeRows[] = {InterfaceRow<SpecAttributeAdapter>()};
+
+}  // namespace
+
+constinit const std::span<const VEXInterfaceRow> featureInterfaces = featureRows;
+constinit const std::span<const VEXInterfaceRow> containerInterfaces = containerRows;
+constinit const std::span<const VEXInterfaceRow> specAttributeInterfaces = specAttributeRows;
+
+}  // namespace vex

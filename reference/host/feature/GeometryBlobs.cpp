@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: Apache-2.0
+// Geometry blobs: in memory, or still in the document's file.
+#include "host/feature/GeometryBlobs.h"
+
+#include <utility>
+
+namespace vex {
+
+std::uint64_t GeometryBlobs::Add(std::vector<std::byte> bytes)
+{
+    const std::uint64_t number = _blobs.empty() ? 1 : _blobs.rbegin()->first + 1;
+    _blobs.emplace(number, Blob{std::move(bytes), true});
+    return number;
+}
+
+void GeometryBlobs::Restore(const std::vector<std::uint64_t>& numbers, Source source)
+{
+    _blobs.clear();
+    for (const std::uint64_t number : numbers) {
+        _blobs.try_emplace(number);
+    }
+    _source = std::move(source);
+}
+
+bool GeometryBlobs::Read(std::uint64_t number, std::span<const std::byte>& bytes,
+                         std::string& error)
+{
+    const auto found = _blobs.find(number);
+    if (found == _blobs.end()) {
+        error = "the document has no geometry of number " + std::to_string(number) +
+                "; import the part again";
+        return false;
+    }
+    Blob& blob = found->second;
+    if (!blob.loaded && !_source(number, blob.bytes, error)) {
+        blob.bytes.clear();
+        return false;
+    }
+    blob.loaded = true;
+    bytes = blob.bytes;
+    return true;
+}
+
+std::vector<std::uint64_t> GeometryBlobs::Numbers() const
+{
+    std::vector<std::uint64_t> numbers;
+    numbers.reserve(_blobs.size());
+    for (const auto& [number, blob] : _blobs) {
+        numbers.push_back(number);
+    }
+    return numbers;
+}
+
+}  // namespace vex

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: Apache-2.0
+// Attribute values of features. Compact: texts, lists and tables are held on the heap, so that a
+// value takes 16 bytes.
+#pragma once
+
+#include "VEXTypes.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <variant>
+#include <vector>
+
+namespace vex {
+
+enum class ValueKind : std::uint8_t {
+    Boolean = 1,
+    Integer = 2,
+    Double = 3,
+    Text = 4,
+    Reference = 5,     ///< another feature of the same document
+    DocumentLink = 6,  ///< another document
+    List = 7,          ///< doubles
+    Table = 8,         ///< rows of doubles, all of one length
+};
+
+using FeatureId = std::uint64_t;  ///< 0: none
+
+struct Reference
+{
+    FeatureId id = 0;
+    friend bool operator==(const Reference&, const Reference&) = default;
+};
+
+struct DocumentLink
+{
+    std::string path;  ///< absolute while open; stored relative to the document
+    friend bool operator==(const DocumentLink&, const DocumentLink&) = default;
+};
+
+using DoubleList = std::vector<double>;
+
+struct DoubleTable
+{
+    std::size_t columns = 0;
+    std::vector<double> cells;  ///< row by row; size is rows times columns
+    friend bool operator==(const DoubleTable&, const DoubleTable&) = default;
+};
+
+/// A heap-held value that copies like one.
+template <class T>
+class Boxed
+{
+public:
+    Boxed() : _value(std::make_unique<T>()) {}
+    Boxed(T value) : _value(std::make_unique<T>(std::move(value))) {}
+    Boxed(const Boxed& other) : _value(std::make_unique<T>(*other._value)) {}
+    Boxed(Boxed&&) noexcept = default;
+    Boxed& operator=(Boxed other) noexcept
+    {
+        _value = std::move(other._value);
+        return *this;
+    }
+    ~Boxed() = default;
+    const T& operator*() const { return *_value; }
+    T& operator*() { return *_value; }
+    const T* operator->() const { return _value.get(); }
+    friend bool operator==(const Boxed& left, const Boxed& right) { return *left == *right; }
+
+private:
+    std::unique_ptr<T> _value;
+};
+
+/// Alternatives stand in the order of ValueKind (kind = index + 1).
+using Value = std::variant<bool, std::int64_t, double, Boxed<std::string>, Reference,
+                           Boxed<DocumentLink>, Boxed<DoubleList>, Boxed<DoubleTable>>;
+
+/// Whether values of this type are held on the heap.
+template <class T>
+inline constexpr bool isBoxed = std::is_same_v<T, std::string> || std::is_same_v<T, DocumentLink> ||
+                                std::is_same_v<T, DoubleList> || std::is_same_v<T, DoubleTable>;
+
+inline ValueKind KindOf(const Value& value)
+{
+    return static_cast<ValueKind>(value.index() + 1);
+}
+
+}  // namespace vex

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reads a part's shape through the geometry kernel.
+#include "host/product/PartGeometry.h"
+
+#include "host/component/ComponentTypes.h"
+#include "host/product/GeometryKernelLoader.h"
+#include "host/product/ProductStructure.h"
+#include "host/system/Text.h"
+
+namespace vex {
+
+PartGeometry::PartGeometry(Document& part) : _part(&part)
+{
+    part.AddRef();
+}
+
+bool PartGeometry::Bytes(std::span<const std::byte>& bytes, std::string& error)
+{
+    const std::string file = system::Quoted(_part->Path()) + ": ";
+    const Feature* const part = _part->IsOpen() ? RootObject(*_part) : nullptr;
+    if (part == nullptr || !part->Kind().IsKindOf(partType)) {
+        error = file + "it holds no part. Name an open .VEXPart document.";
+        return false;
+    }
+    const std::int64_t number = part->GetAs<std::int64_t>("Geometry");
+    if (number <= 0) {
+        error = file + "the part has no geometry. Import one from a STEP file.";
+        return false;
+    }
+    if (!_part->Geometry(static_cast<std::uint64_t>(number), bytes, error)) {
+        error = file + error;
+        return false;
+    }
+    return true;
+}
+
+ShapeModel* PartGeometry::Shape(std::string& error)
+{
+    if (_shape == nullptr) {
+        std::span<const std::byte> bytes;
+        if (!Bytes(bytes, error)) {
+            return nullptr;
+        }
+        GeometryKernel* const kernel = LoadGeometryKernel(ComponentTypes::SearchPath(), error);
+        if (kernel == nullptr) {
+            return nullptr;
+        }
+        _shape = kernel->LoadShape(bytes, error);
+        if (_shape == nullptr) {
+            error = system::Quoted(_part->Path()) + ": " + error;
+        }
+    }
+    return _shape.get();
+}
+
+}  // namespace vex

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: Apache-2.0
+// Product nodes and parts through their interfaces.
+#include "host/product/ProductAdapters.h"
+
+#include "host/feature/DocumentSession.h"
+#include "host/feature/FeatureAdapters.h"
+#include "host/feature/Refusal.h"
+#include "host/product/ProductStructure.h"
+#include "host/system/Probe.h"
+
+namespace vex {
+
+namespace {
+
+/// Removes the features that lack the interface of that name.
+void KeepWith(const char* interfaceName, std::vector<Feature*>& features)
+{
+    if (interfaceName == nullptr) {
+        features.clear();
+        return;
+    }
+    const IID iid = VEXGuidOfName(interfaceName);
+    std::erase_if(features,
+                  [&](const Feature* feature) { return feature->Type().Find(iid) == nullptr; });
+}
+
+}  // namespace
+
+VEXListValVEXBaseUnknown_var* ProductAdapter::GetChildren(const char* interfaceName) const
+{
+    return Probe<"VEXIProduct::GetChildren">(
+        [&]() -> VEXListValVEXBaseUnknown_var* {
+            std::vector<Feature*> below;
+            std::string error;
+            if (Self().Tree() == nullptr) {
+                return nullptr;
+            }
+            if (!StructureBelow(Self(), below, error)) {
+                Refuse(E_FAIL, error);
+                return nullptr;
+            }
+            KeepWith(interfaceName, below);
+            auto* const children = new VEXListValVEXBaseUnknown_var;
+            for (Feature* const feature : below) {
+                children->Append(VEXShare<VEXBaseUnknown>(feature));
+            }
+            return children;
+        },
+        In(interfaceName));
+}
+
+VEXUnicodeString ProductAdapter::GetPartNumber() const
+{
+    return Probe<"VEXIProduct::GetPartNumber">([&] {
+        return Self().Tree() == nullptr ? VEXUnicodeString()
+                                        : VEXUnicodeString(Self().GetAs<std::string>("PartNumber"));
+    });
+}
+
+HRESULT ProductDescendantsAdapter::GetAllChildren(const char* interfaceName,
+                                                  VEXListValVEXISpecObject_var& descendants) const
+{
+    return Probe<"VEXIDescendants::GetAllChildren">(
+        [&] {
+            std::vector<Feature*> below;
+            std::string error;
+            if (Self().Tree() == nullptr) {
+                return E_FAIL;
+            }
+            if (!AllBelow(Self(), below, error)) {
+                return Refuse(E_FAIL, error);
+            }
+            KeepWith(interfaceName, below);
+            for (const Feature* const feature : below) {
+                descendants.Append(AsSpecObject(feature));
+            }
+            return S_OK;
+        },
+        In(interfaceName), Out(descendants));
+}
+
+VEXDocument* LinkableObjectAdapter::GetDocument() const
+{
+    return Probe<"VEXILinkableObject::GetDocument">([&]() -> VEXDocument* {
+        const Document* const owner = Document::OwnerOf(&Self());
+        return owner == nullptr ? nullptr : owner->AsVEXDocument();
+    });
+}
+
+namespace {
+
+constexpr VEXInterfaceRow productNodeRows[] = {InterfaceRow<ProductAdapter>(),
+                                               InterfaceRow<ProductDescendantsAdapter>(),
+                                               InterfaceRow<LinkableObjectAdapter>()};
+constexpr VEXInterfaceRow partRows[] = {InterfaceRow<LinkableObjectAdapter>(),
+                                        InterfaceRow<DescendantsAdapter>()};
+
+}  // namespace
+
+constinit const std::span<const VEXInterfaceRow> productNodeInterfaces = productNodeRows;
+constinit const std::span<const VEXInterfaceRow> partInterfaces = partRows;
+
+}  // namespace vex

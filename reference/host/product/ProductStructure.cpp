@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: Apache-2.0
+// Makes product and part documents and walks across their links.
+#include "host/product/ProductStructure.h"
+
+#include "host/feature/DocumentSession.h"
+
+#include <unordered_set>
+
+namespace vex {
+
+namespace {
+
+void MakeStructure(Document& document, const char* container, const char* object)
+{
+    LateTypes& types = LateTypes::Instance();
+    FeatureTree& tree = document.Tree();
+    tree.Create(types.Require(object), &tree.Create(types.Require(container), nullptr));
+    tree.Create(types.Require("VEXBRepContainer"), nullptr);
+}
+
+void AppendContents(const Document& document, std::vector<Feature*>& contents)
+{
+    const Feature* const container = document.SpecContainer();
+    if (container == nullptr) {
+        return;
+    }
+    for (Feature* const object : container->Children()) {
+        if (object->Kind().IsKindOf(productNodeType)) {
+            contents.insert(contents.end(), object->Children().begin(), object->Children().end());
+        } else {
+            contents.push_back(object);
+        }
+    }
+}
+
+}  // namespace
+
+void MakeProductStructure(Document& document)
+{
+    MakeStructure(document, "VEXProductContainer", productNodeType);
+}
+
+void MakePartStructure(Document& document)
+{
+    MakeStructure(document, "VEXPrtContainer", partType);
+}
+
+Feature* RootObject(const Document& document)
+{
+    const Feature* const container = document.SpecContainer();
+    if (container == nullptr || document.DocType() == DocumentType::Analysis ||
+        container->Children().empty()) {
+        return nullptr;
+    }
+    return container->Children().front();
+}
+
+Document* LinkedDocument(const Feature& node, std::string& error)
+{
+    error.clear();
+    if (node.Tree() == nullptr || !node.Kind().IsKindOf(productNodeType)) {
+        return nullptr;
+    }
+    const std::string& path = node.GetAs<DocumentLink>("Document").path;
+    return path.empty() ? nullptr : DocumentSession::Instance().OpenLinked(path, error);
+}
+
+bool StructureBelow(const Feature& object, std::vector<Feature*>& below, std::string& error)
+{
+    const Document* const linked = LinkedDocument(object, error);
+    if (linked == nullptr && !error.empty()) {
+        return false;
+    }
+    below.insert(below.end(), object.Children().begin(), object.Children().end());
+    if (linked != nullptr) {
+        AppendContents(*linked, below);
+    }
+    return true;
+}
+
+bool AllBelow(Feature& object, std::vector<Feature*>& below, std::string& error)
+{
+    std::unordered_set<const Document*> entered;
+    if (object.Tree() != nullptr) {
+        entered.insert(&object.Tree()->Owner());
+    }
+    std::vector<Feature*> open{&object};
+    while (!open.empty()) {
+        Feature* const next = open.back();
+        open.pop_back();
+        if (next != &object) {
+            below.push_back(next);
+        }
+        std::vector<Feature*> children = next->Children();
+        const Document* const linked = LinkedDocument(*next, error);
+        if (linked == nullptr && !error.empty()) {
+            return false;
+        }
+        if (linked != nullptr && entered.insert(linked).second) {
+            AppendContents(*linked, children);
+        }
+        open.insert(open.end(), children.rbegin(), children.rend());
+    }
+    return true;
+}
+
+}  // namespace vex

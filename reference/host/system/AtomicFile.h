@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+// Replaces a file as a whole: whoever opens it, at any moment and after any crash, finds either the
+// old content or the new one, complete.
+#pragma once
+
+#include "VEXTypes.h"
+#include "host/system/Descriptor.h"
+
+#include <string>
+#include <string_view>
+
+namespace vex::system {
+
+/// One replacement: `Begin` makes a new file beside the old one, the caller writes its content,
+/// `Commit` synchronises it, renames it over the old one and synchronises the folder. Without a
+/// successful `Commit` the new file is removed and the old one is untouched.
+///
+/// The new file has the permissions of the file it replaces, and its owner as far as the process
+/// may give it. A symbolic link is followed: the file it leads to is replaced. A file that the
+/// process may not write is refused, although its folder would let it be replaced.
+/// All changes to the disk go through CurrentFileOperations().
+class VEX_EXPORT AtomicFile
+{
+public:
+    AtomicFile() = default;
+    AtomicFile(const AtomicFile&) = delete;
+    AtomicFile& operator=(const AtomicFile&) = delete;
+    ~AtomicFile() { Discard(); }
+
+    /// Begins the replacement of `path`, which need not exist; its folder must. A replacement begun
+    /// earlier with this object is discarded. On failure `error` gets the message.
+    bool Begin(std::string_view path, std::string& error);
+
+    /// The new file, open for reading and writing, empty at first; owned by this object.
+    int File() const { return _file.Number(); }
+
+    /// Ends the replacement. On failure `error` gets the message, and the old file is untouched
+    /// with one exception, which the message tells: when only the last step (synchronising the
+    /// folder) failed, the new file is in place, but may not outlive a loss of power.
+    bool Commit(std::string& error);
+
+    /// Gives up: removes the new file. Does nothing when none is begun.
+    void Discard();
+
+    /// The message for a save of `path` that failed in `step` before anything was replaced.
+    static std::string Failure(std::string_view path, std::string_view step,
+                               std::string_view reason);
+
+private:
+    bool ResolveTarget(std::string_view path, std::string& error);
+    bool CreateBeside(unsigned mode, std::string& error);
+    bool Fail(std::string_view step, int code, std::string& error);
+
+    std::string _target;     // the file to be replaced, links resolved
+    std::string _temporary;  // the new file's path; empty when there is none
+    Descriptor _file;
+    Descriptor _folder;
+};
+
+}  // namespace vex::system

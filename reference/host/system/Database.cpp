@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: Apache-2.0
+// SQLite connections as the stores need them.
+#include "host/system/Database.h"
+
+#include "host/system/DescriptorVfs.h"
+#include "host/system/Text.h"
+
+#include <fmt/format.h>
+
+#include <initializer_list>
+#include <utility>
+
+namespace vex::system {
+namespace {
+
+// A stored file needs a handful of plain tables and statements; whatever needs more is not ours.
+constexpr std::initializer_list<std::pair<int, int>> kReadingLimits = {
+    {SQLITE_LIMIT_SQL_LENGTH, 100000}, {SQLITE_LIMIT_COLUMN, 32},
+    {SQLITE_LIMIT_EXPR_DEPTH, 10},     {SQLITE_LIMIT_COMPOUND_SELECT, 2},
+    {SQLITE_LIMIT_ATTACHED, 0},        {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 50},
+    {SQLITE_LIMIT_VARIABLE_NUMBER, 8}, {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
+    {SQLITE_LIMIT_WORKER_THREADS, 0}};
+
+constexpr std::initializer_list<std::pair<int, int>> kReadingSwitches = {
+    {SQLITE_DBCONFIG_DEFENSIVE, 1},
+    {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+    {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+    {SQLITE_DBCONFIG_ENABLE_VIEW, 0}};
+
+}  // namespace
+
+bool Database::Open(const std::string& name, int flags, const char* vfs, std::string& reason)
+{
+    sqlite3* connection = nullptr;
+    const int result = sqlite3_open_v2(name.c_str(), &connection, flags | SQLITE_OPEN_NOMUTEX, vfs);
+    _connection.reset(connection);
+    if (result == SQLITE_OK) return true;
+    reason = connection != nullptr ? Reason() : sqlite3_errstr(result);
+    _connection.reset();
+    return false;
+}
+
+bool Database::OpenForReading(int file, std::string& reason)
+{
+    const char* vfs = DescriptorVfs();
+    if (vfs == nullptr) {
+        reason = "SQLite cannot be initialised";
+        return false;
+    }
+    if (!Open(DescriptorName(file), SQLITE_OPEN_READONLY, vfs, reason)) return false;
+    for (const auto& [limit, value] : kReadingLimits)
+        sqlite3_limit(Connection(), limit, value);
+    for (const auto& [name, value] : kReadingSwitches) {
+        if (sqlite3_db_config(Connection(), name, value, nullptr) != SQLITE_OK) {
+            reason = Reason();
+            return false;
+        }
+    }
+    return Execute(
+        "PRAGMA query_only = ON; PRAGMA cell_size_check = ON; PRAGMA temp_store = MEMORY", reason);
+}
+
+bool Database::OpenForWriting(int file, int applicationId, int version, std::string& reason)
+{
+    const char* vfs = DescriptorVfs();
+    if (vfs == nullptr) {
+        reason = "SQLite cannot be initialised";
+        return false;
+    }
+    const std::string pragmas = fmt::format(
+        "PRAGMA encoding = 'UTF-8'; PRAGMA page_size = 16384; PRAGMA auto_vacuum = NONE;"
+        "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = MEMORY; PRAGMA synchronous = OFF;"
+        "PRAGMA temp_store = MEMORY; PRAGMA cache_size = -65536; PRAGMA secure_delete = OFF;"
+        "PRAGMA application_id = {}; PRAGMA user_version = {}; BEGIN EXCLUSIVE",
+        applicationId, version);
+    return Open(DescriptorName(file), SQLITE_OPEN_READWRITE, vfs, reason) &&
+           Execute(pragmas.c_str(), reason);
+}
+
+bool Database::OpenInMemory(std::string& reason)
+{
+    return Open(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_MEMORY, nullptr, reason);
+}
+
+bool Database::Execute(const char* sql, std::string& reason)
+{
+    if (sqlite3_exec(Connection(), sql, nullptr, nullptr, nullptr) == SQLITE_OK) return true;
+    reason = Reason();
+    return false;
+}
+
+bool Database::Commit(std::string& reason)
+{
+    const bool committed = Execute("COMMIT", reason);
+    Close();
+    return committed;
+}
+
+std::string Database::Reason() const
+{
+    std::string reason = Printable(sqlite3_errmsg(Connection()));
+    const int result = sqlite3_errcode(Connection()) & 0xFF;
+    const int code = DescriptorError();
+    if (result == SQLITE_IOERR && code != 0) reason += fmt::format(" ({})", SystemReason(code));
+    return reason;
+}
+
+bool Statement::Prepare(Database& database, const char* sql, std::string& reason)
+{
+    sqlite3_stmt* statement = nullptr;
+    const int result = sqlite3_prepare_v3(database.Connection(), sql, -1, SQLITE_PREPARE_PERSISTENT,
+                                          &statement, nullptr);
+    _statement.reset(statement);
+    if (result == SQLITE_OK) return true;
+    reason = database.Reason();
+    return false;
+}
+
+bool Statement::Get(int column, std::int64_t& number)
+{
+    if (sqlite3_column_type(_statement.get(), column) != SQLITE_INTEGER) return false;
+    number = sqlite3_column_int64(_statement.get(), column);
+    return true;
+}
+
+bool Statement::Get(int column, std::string_view& text)
+{
+    if (sqlite3_column_type(_statement.get(), column) != SQLITE_TEXT) return false;
+    const unsigned char* characters = sqlite3_column_text(_statement.get(), column);
+    if (characters == nullptr) return false;  // no memory
+    const int size = sqlite3_column_bytes(_statement.get(), column);
+    text = {reinterpret_cast<const char*>(characters), static_cast<std::size_t>(size)};
+    return true;
+}
+
+bool Statement::Get(int column, std::span<const std::byte>& bytes)
+{
+    if (sqlite3_column_type(_statement.get(), column) != SQLITE_BLOB) return false;
+    const void* start = sqlite3_column_blob(_statement.get(), column);
+    const int size = sqlite3_column_bytes(_statement.get(), column);
+    if (start == nullptr && size != 0) return false;  // no memory
+    bytes = {static_cast<const std::byte*>(start), static_cast<std::size_t>(size)};
+    return true;
+}
+
+}  // namespace vex::system

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+// The settings repository over its file.
+#include "host/system/SettingsStore.h"
+
+#include "host/system/FolderLock.h"
+#include "host/system/Path.h"
+#include "host/system/SettingsFile.h"
+#include "host/system/Text.h"
+
+#include <fmt/format.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace vex::system {
+namespace {
+
+std::string Variable(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+}  // namespace
+
+std::string SettingsStore::DefaultPath(std::string& error)
+{
+    constexpr const char* kBelowConfiguration = "/HLX/settings.VEXSettings";
+    if (std::string path = Variable("VEX_SETTINGS"); !path.empty()) return path;
+    const std::string configuration = Variable("XDG_CONFIG_HOME");
+    if (configuration.starts_with('/')) return configuration + kBelowConfiguration;
+    if (const std::string home = Variable("HOME"); !home.empty()) {
+        return home + "/.config" + kBelowConfiguration;
+    }
+    error =
+        "There is no place for the settings: none of VEX_SETTINGS, XDG_CONFIG_HOME and HOME is "
+        "set. Set VEX_SETTINGS to the path of a file.";
+    return "";
+}
+
+bool SettingsStore::Load(std::string& error)
+{
+    _changes.clear();
+    return ReadSettings(_path, _settings, error);
+}
+
+std::optional<std::string_view> SettingsStore::Get(std::string_view key) const
+{
+    for (const Settings* settings : {&_changes, &_settings}) {
+        if (const auto found = settings->find(key); found != settings->end()) return found->second;
+    }
+    return std::nullopt;
+}
+
+bool SettingsStore::Set(std::string_view key, std::string_view value, std::string& error)
+{
+    const char* keyFault = key.empty() ? "is empty" : TextFault(key);
+    const char* valueFault = TextFault(value);
+    if (keyFault != nullptr || valueFault != nullptr) {
+        error = fmt::format("setting {}: its {} {}. Give another text.", Quoted(key),
+                            keyFault != nullptr ? "key" : "value",
+                            keyFault != nullptr ? keyFault : valueFault);
+        return false;
+    }
+    _changes.insert_or_assign(std::string(key), std::string(value));
+    return true;
+}
+
+bool SettingsStore::Commit(std::string& error)
+{
+    if (_changes.empty()) return true;
+    if (!CheckPath(_path, error)) return false;
+    const std::string folder = FolderOf(_path);
+    std::error_code code;
+    std::filesystem::create_directories(folder, code);
+    if (code) {
+        error = fmt::format(
+            "{}: the folder of the settings cannot be made: {}. Check the path and "
+            "the permissions.",
+            Quoted(folder), SystemReason(code.value()));
+        return false;
+    }
+    // Between reading and replacing the file nobody else may replace it: his settings would be
+    // lost.
+    FolderLock lock;
+    Settings settings;
+    if (!lock.Take(folder, error) || !ReadSettings(_path, settings, error)) return false;
+    for (const auto& [key, value] : _changes)
+        settings.insert_or_assign(key, value);
+    if (!WriteSettings(_path, settings, error)) return false;
+    _settings = std::move(settings);
+    _changes.clear();
+    return true;
+}
+
+}  // namespace vex::system

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: Apache-2.0
+// The settings repository: texts by key, kept in one file of the user's.
+#pragma once
+
+#include "VEXTypes.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vex::system {
+
+/// The settings of one repository file, as read from it and changed since. A file that does not
+/// exist holds no settings. A damaged file is refused and stays as it is: settings are never
+/// silently lost. Not for use by several threads at once; several processes may use one file.
+class VEX_EXPORT SettingsStore
+{
+public:
+    using Settings = std::map<std::string, std::string, std::less<>>;
+
+    /// Keeps the settings in `path`; nothing is read yet.
+    explicit SettingsStore(std::string path) : _path(std::move(path)) {}
+
+    /// Where the user's settings are: the environment's VEX_SETTINGS, else
+    /// $XDG_CONFIG_HOME/HLX/settings.VEXSettings (an absolute folder only), else
+    /// ~/.config/HLX/settings.VEXSettings. An empty variable counts as none. Empty with a message
+    /// in `error` when none of them is set.
+    static std::string DefaultPath(std::string& error);
+
+    const std::string& Path() const { return _path; }
+
+    /// Reads the file; changes not committed are dropped. False with a message when it cannot be
+    /// read or is damaged; there are then no settings here, and the file is as it was.
+    bool Load(std::string& error);
+
+    /// The value of `key`; none when it has none. The text lives until the setting changes.
+    std::optional<std::string_view> Get(std::string_view key) const;
+
+    /// Gives `key` a value, until Commit only here. False with a message, nothing changed, when the
+    /// key is empty or either text is not valid UTF-8 or holds a NUL.
+    bool Set(std::string_view key, std::string_view value, std::string& error);
+
+    /// Writes what was set since the last Load or Commit into the file, which keeps whatever other
+    /// processes have set meanwhile; the folder is made when missing. The file is replaced as a
+    /// whole. Afterwards this object holds all its settings. False with a message: the file is as
+    /// it was, and a later Commit tries again.
+    bool Commit(std::string& error);
+
+private:
+    std::string _path;
+    Settings _settings;
+    Settings _changes;  // set, not yet committed
+};
+
+}  // namespace vex::system

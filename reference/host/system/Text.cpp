@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: Apache-2.0
+// Checks stored texts and makes outside bytes fit for a message.
+#include "host/system/Text.h"
+
+#include "host/system/Texts.h"
+
+#include <fmt/format.h>
+
+#include <cstdint>
+#include <cstring>
+
+namespace vex::system {
+namespace {
+
+// `text` as text::AppendQuoted escapes it, without its quotes; double quotes stay as they are, and
+// single quotes too unless they are to get a backslash.
+std::string Escaped(std::string_view text, bool escapeSingleQuotes)
+{
+    std::string result;
+    for (;;) {
+        const std::size_t end = text.find_first_of("\"'");
+        std::string piece;
+        text::AppendQuoted(piece, text.substr(0, end));
+        result.append(piece, 1, piece.size() - 2);
+        if (end == std::string_view::npos) return result;
+        if (escapeSingleQuotes && text[end] == '\'') result += '\\';
+        result += text[end];
+        text.remove_prefix(end + 1);
+    }
+}
+
+}  // namespace
+
+const char* TextFault(std::string_view text)
+{
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    constexpr std::uint64_t kOnes = 0x0101010101010101U;
+    // Most texts are plain ASCII: eight characters at a time, none of them NUL.
+    for (std::uint64_t word = 0; text.size() >= sizeof word; text.remove_prefix(sizeof word)) {
+        std::memcpy(&word, text.data(), sizeof word);
+        if ((((word - kOnes) | word) & kHighBits) != 0) break;
+    }
+    if (text::IsValid(text)) return nullptr;
+    return text.find('\0') == std::string_view::npos ? "holds bytes that are not valid UTF-8"
+                                                     : "holds a NUL character";
+}
+
+std::string Printable(std::string_view text)
+{
+    return Escaped(text, false);
+}
+
+std::string Quoted(std::string_view text)
+{
+    return fmt::format("'{}'", Escaped(text, true));
+}
+
+std::string SystemReason(int code)
+{
+    // strerror would speak the locale's language.
+    const char* description = strerrordesc_np(code);
+    return description != nullptr ? description : fmt::format("error {}", code);
+}
+
+}  // namespace vex::system

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+// A part's shape with its cells in the kernel's map order.
+#pragma once
+
+#include "host/product/GeometryKernel.h"
+
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS_Shape.hxx>
+
+#include <array>
+
+namespace vex::topology {
+
+class BRepShapeModel : public ShapeModel
+{
+public:
+    // Throws what the kernel throws.
+    explicit BRepShapeModel(const TopoDS_Shape& shape);
+
+    std::size_t CellCount(int dimension) const override;
+    std::size_t BodyCount() const override { return bodyCount_; }
+    std::string CellKind(int dimension, std::size_t index) const override;
+    std::optional<double> CellMeasure(int dimension, std::size_t index) const override;
+    std::optional<Point> CellCentre(int dimension, std::size_t index) const override;
+
+private:
+    // Null where there is no such cell.
+    const TopoDS_Shape* Cell(int dimension, std::size_t index) const;
+
+    std::array<TopTools_IndexedMapOfShape, 4> cells_;
+    std::size_t bodyCount_ = 0;
+};
+
+}  // namespace vex::topology

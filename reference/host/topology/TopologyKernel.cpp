@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: Apache-2.0
+// The component library's kernel object and its entry points.
+#include "host/product/GeometryKernel.h"
+#include "host/product/KernelModule.h"
+#include "host/system/Text.h"
+#include "host/topology/BRepShapeModel.h"
+#include "host/topology/ShapeBytes.h"
+#include "host/topology/step/StepReader.h"
+
+#include <Message.hxx>
+#include <Message_Messenger.hxx>
+#include <Message_Printer.hxx>
+#include <Standard_Failure.hxx>
+
+#include <dlfcn.h>
+
+#include <exception>
+#include <filesystem>
+#include <mutex>
+
+extern "C" {
+__attribute__((visibility("default"))) vex::GeometryKernel* VEXGeometryKernelInstance();
+__attribute__((visibility("default"))) unsigned VEXGeometryKernelVersion();
+}
+
+namespace vex::topology {
+namespace {
+
+// The folder this library was opened from: STEP reading is a library of its own beside it.
+std::string OwnDirectory()
+{
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<const void*>(&VEXGeometryKernelVersion), &info) == 0) return {};
+    return std::filesystem::path(info.dli_fname).parent_path().string();
+}
+
+class TopologyKernel : public GeometryKernel
+{
+public:
+    // The kernel prints to standard output unless told otherwise, and the host never does.
+    TopologyKernel()
+    {
+        Message::DefaultMessenger()->RemovePrinters(STANDARD_TYPE(Message_Printer));
+    }
+
+    bool ReadStep(const std::string& path, ImportedAssembly& out, std::string& error) override
+    {
+        try {
+            const StepReaderFunction read = Reader(error);
+            return read != nullptr && read(path, out, error);
+        } catch (const std::exception& failure) {
+            error = system::Quoted(path) + ": cannot be read (" + failure.what() +
+                    "): free some memory and try again";
+            return false;
+        }
+    }
+
+    std::unique_ptr<ShapeModel> LoadShape(std::span<const std::byte> bytes,
+                                          std::string& error) override
+    {
+        try {
+            return std::make_unique<BRepShapeModel>(ReadShape(bytes));
+        } catch (const Standard_Failure& failure) {
+            error = std::string("the geometry kernel refuses the bytes (") +
+                    failure.GetMessageString() + ")";
+        } catch (const std::exception& failure) {
+            error = failure.what();
+        }
+        error += ": import the part again";
+        return nullptr;
+    }
+
+private:
+    StepReaderFunction Reader(std::string& error)
+    {
+        const std::scoped_lock lock(guard_);
+        if (reader_ == nullptr) {
+            reader_ = reinterpret_cast<StepReaderFunction>(
+                OpenKernelModule({OwnDirectory()}, "libVEXStepReader.so", "VEXStepReaderVersion",
+                                 "VEXStepReaderRead", error));
+        }
+        return reader_;
+    }
+
+    std::mutex guard_;
+    StepReaderFunction reader_ = nullptr;
+};
+
+}  // namespace
+}  // namespace vex::topology
+
+extern "C" vex::GeometryKernel* VEXGeometryKernelInstance()
+{
+    static vex::topology::TopologyKernel kernel;
+    return &kernel;
+}
+
+extern "C" unsigned VEXGeometryKernelVersion()
+{
+    return vex::kGeometryKernelVersion;
+}

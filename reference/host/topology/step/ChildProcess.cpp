@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: Apache-2.0
+// Runs work in a child process. What the child says is frames on a pipe: a kind (one byte), a
+// length (8 bytes, the machine's own order), that many bytes. 'P' is a phase, 'W' a warning, 'R'
+// the result, 'E' an error; 'R' or 'E' is the last.
+#include "host/topology/step/ChildProcess.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdint>
+#include <cstring>
+#include <exception>
+#include <system_error>
+
+namespace vex::topology {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::size_t kFrameHead = 1 + sizeof(std::uint64_t);
+
+// ---- in the child ----
+
+void WriteAll(int pipe, const void* data, std::size_t size)
+{
+    const char* next = static_cast<const char*>(data);
+    while (size > 0) {
+        const ssize_t written = ::write(pipe, next, size);
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) _exit(1);  // the parent is gone
+        next += written;
+        size -= static_cast<std::size_t>(written);
+    }
+}
+
+void WriteFrame(int pipe, char kind, const void* data, std::size_t size)
+{
+    char head[kFrameHead];
+    const std::uint64_t length = size;
+    head[0] = kind;
+    std::memcpy(head + 1, &length, sizeof length);
+    WriteAll(pipe, head, sizeof head);
+    WriteAll(pipe, data, size);
+}
+
+void DetachFromParent()
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    const rlimit noCore{0, 0};
+    setrlimit(RLIMIT_CORE, &noCore);
+    // The parent's handlers are not for this process: what goes wrong here ends it.
+    for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGINT, SIGTERM, SIGPIPE}) {
+        ::signal(signal, SIG_DFL);
+    }
+    const int nothing = ::open("/dev/null", O_RDWR | O_CLOEXEC);
+    if (nothing >= 0) ::dup2(nothing, STDOUT_FILENO);
+}
+
+[[noreturn]] void BeChild(int pipe, const ChildWork& work)
+{
+    DetachFromParent();
+    try {
+        const auto say = [pipe](char kind) {
+            return [pipe, kind](const std::string& text) {
+                WriteFrame(pipe, kind, text.data(), text.size());
+            };
+        };
+        const std::vector<std::byte> result = work({say('P'), say('W')});
+        WriteFrame(pipe, 'R', result.data(), result.size());
+    } catch (const std::exception& failure) {
+        WriteFrame(pipe, 'E', failure.what(), std::strlen(failure.what()));
+    } catch (...) {
+        _exit(1);
+    }
+    // Not exit(): the buffers and the handlers are the parent's.
+    _exit(0);
+}
+
+// ---- in the parent ----
+
+// Takes the complete frames off the front of `bytes`; true when the last frame of all was among
+// them.
+bool TakeFrames(std::vector<std::byte>& bytes, ChildOutcome& outcome)
+{
+    std::size_t at = 0;
+    bool last = false;
+    while (!last && bytes.size() - at >= kFrameHead) {
+        std::uint64_t length = 0;
+        std::memcpy(&length, bytes.data() + at + 1, sizeof length);
+        if (bytes.size() - at - kFrameHead < length) break;
+        const auto kind = static_cast<char>(bytes[at]);
+        const std::byte* data = bytes.data() + at + kFrameHead;
+        const std::string text(reinterpret_cast<const char*>(data), kind == 'R' ? 0 : length);
+        if (kind == 'P') outcome.phase = text;
+        if (kind == 'W') outcome.warnings.push_back(text);
+        if (kind == 'E') {
+            outcome.end = ChildOutcome::End::Failed;
+            outcome.text = text;
+        }
+        if (kind == 'R') {
+            outcome.end = ChildOutcome::End::Done;
+            outcome.result.assign(data, data + length);
+        }
+        last = kind == 'R' || kind == 'E';
+        at += kFrameHead + length;
+    }
+    bytes.erase(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(at));
+    return last;
+}
+
+int MillisecondsUntil(Clock::time_point deadline)
+{
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
+    return left > 0 ? static_cast<int>(left) : 0;
+}
+
+// Reads until the last frame, the end of the pipe or the deadline.
+void Listen(int pipe, Clock::time_point deadline, ChildOutcome& outcome)
+{
+    std::vector<std::byte> bytes;
+    std::vector<std::byte> block(1 << 16);
+    for (;;) {
+        pollfd waiting{pipe, POLLIN, 0};
+        const int ready = ::poll(&waiting, 1, MillisecondsUntil(deadline));
+        if (ready < 0 && errno == EINTR) continue;
+        if (ready == 0) {
+            outcome.end = ChildOutcome::End::TimedOut;
+            return;
+        }
+        const ssize_t size = ::read(pipe, block.data(), block.size());
+        if (size < 0 && errno == EINTR) continue;
+        if (size <= 0) return;
+        bytes.insert(bytes.end(), block.begin(), block.begin() + size);
+        if (TakeFrames(bytes, outcome)) return;
+    }
+}
+
+std::string HowItEnded(int status)
+{
+    if (WIFSIGNALED(status)) {
+        return "signal " + std::to_string(WTERMSIG(status));
+    }
+    return "status " + std::to_string(WEXITSTATUS(status));
+}
+
+}  // namespace
+
+ChildOutcome RunInChild(const ChildWork& work, int seconds)
+{
+    const Clock::time_point deadline = Clock::now() + std::chrono::seconds(seconds);
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0) {
+        throw std::system_error(errno, std::generic_category(), "no pipe");
+    }
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::close(ends[0]);
+        BeChild(ends[1], work);
+    }
+    const int failure = errno;
+    ::close(ends[1]);
+    if (child < 0) {
+        ::close(ends[0]);
+        throw std::system_error(failure, std::generic_category(), "no child process");
+    }
+    ChildOutcome outcome;
+    std::exception_ptr thrown;
+    try {
+        Listen(ends[0], deadline, outcome);
+    } catch (...) {
+        thrown = std::current_exception();  // memory ran out: the child is ended all the same
+    }
+    ::close(ends[0]);
+    ::kill(child, SIGKILL);
+    int status = 0;
+    while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+    }
+    if (thrown) std::rethrow_exception(thrown);
+    if (outcome.end == ChildOutcome::End::Broken) outcome.text = HowItEnded(status);
+    return outcome;
+}
+
+}  // namespace vex::topology

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+// The product's components and the kinds of feature that have interfaces of their own: one line
+// each. A kind that is not here has the interfaces of the nearest base in the catalogue that is.
+// The rows that these extend are the host's (HostComponents.cpp).
+#include "host/component/Adapter.h"
+#include "host/system/Probe.h"
+#include "product/cases/AnalysisCaseAdapters.h"
+#include "product/catalog/CatalogFile.h"
+#include "product/conditions/LoadFactory.h"
+#include "product/settings/GeneralSettingController.h"
+
+#include <cstdio>
+
+namespace hlx {
+
+namespace {
+
+using vex::InterfaceRow;
+
+constexpr VEXInterfaceRow analysisCase[] = {InterfaceRow<AnalysisCaseAdapter>()};
+constexpr VEXInterfaceRow analysisCaseFactory[] = {InterfaceRow<AnalysisCaseFactory>()};
+constexpr VEXInterfaceRow elementBehaviorFactory[] = {InterfaceRow<ElementBehaviorFactory>()};
+constexpr VEXInterfaceRow loadFactory[] = {InterfaceRow<LoadFactory>()};
+constexpr VEXInterfaceRow settingController[] = {InterfaceRow<GeneralSettingAdapter>(),
+                                                 InterfaceRow<SettingRepositoryAdapter>()};
+
+/// Makes a component without state of its own.
+template <vex::probe::PointName Name>
+VEXBaseUnknown* MakeService(void*)
+{
+    return new vex::Component(vex::ComponentTypes::Instance().Require(Name.View()));
+}
+
+constexpr VEXComponentRow components[] = {
+    // Kinds of feature.
+    {"HLXHacAnalysisCaseLT", "VEXSamAnalysisCase", analysisCase, nullptr},
+    {"HLXHacSimHistLT", "VEXSamAnalysisObject", {}, nullptr},
+    {"HLXHacSolutionLT", "VEXSamAnalysisObject", {}, nullptr},
+    {"HLXStepLT", "VEXSamAnalysisSet", {}, nullptr},
+    {"HLXContainerLT", "VEXSamAnalysisObject", {}, nullptr},
+    // Factories and services.
+    {"HLXHacAnalysisCaseFact", nullptr, analysisCaseFactory, MakeService<"HLXHacAnalysisCaseFact">},
+    {"HLXElementBehaviorFact", nullptr, elementBehaviorFactory,
+     MakeService<"HLXElementBehaviorFact">},
+    {"HLXLoadFact", nullptr, loadFactory, MakeService<"HLXLoadFact">},
+    {GeneralSettingController::Name, nullptr, settingController, &GeneralSettingController::Create},
+};
+
+HRESULT Start()
+{
+    std::string error;
+    if (!LoadCatalog(CatalogFolders(), error)) {
+        std::fprintf(stderr, "hlx: %s\n", error.c_str());
+        return E_FAIL;
+    }
+    return S_OK;
+}
+
+constexpr VEXComponentLibrary library = {VEXComponentLibraryVersion, "HLXProduct", components,
+                                         &Start};
+
+}  // namespace
+
+}  // namespace hlx
+
+const VEXComponentLibrary* VEXGetComponentLibrary()
+{
+    return &hlx::library;
+}

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+// What stands in a new analysis case.
+#include "product/cases/AnalysisCaseBuilder.h"
+
+#include "host/feature/FeatureTree.h"
+
+#include <string>
+#include <unordered_set>
+
+namespace hlx {
+
+namespace {
+
+using vex::Feature;
+
+constexpr const char* caseType = "HLXHacAnalysisCaseLT";
+constexpr const char* behaviorType = "HLXElementBehaviorLT";
+
+/// What can hold before the first step: conditions, contacts and fields, no loads.
+constexpr const char* initialContainers[] = {
+    "HLXBoundaryConditionContainerLT",
+    "HLXInteractionContainerLT",
+    "HLXHacFieldContainerLT",
+};
+
+Feature& Add(Feature& parent, std::string_view lateType)
+{
+    return parent.Tree()->Create(vex::LateTypes::Instance().Require(lateType), &parent);
+}
+
+std::string NextAlias(const Feature& model)
+{
+    const std::string prefix = "Analysis Case.";
+    std::unordered_set<std::string_view> taken;
+    std::size_t cases = 0;
+    for (const Feature* const child : model.Children()) {
+        taken.insert(child->Alias());
+        cases += child->Kind().IsKindOf(caseType) ? 1U : 0U;
+    }
+    std::string alias;
+    do {
+        alias = prefix + std::to_string(++cases);
+    } while (taken.contains(alias));
+    return alias;
+}
+
+}  // namespace
+
+Feature& AddAnalysisCase(Feature& model, HLXIAnalysisCase::analysisTypeEnum type)
+{
+    const std::string alias = NextAlias(model);
+    Feature& analysisCase = Add(model, caseType);
+    analysisCase.SetAlias(alias);
+    analysisCase.Set("AnalysisType", std::int64_t{type});
+    Feature& initialStep = Add(Add(analysisCase, "HLXHacSimHistLT"), "HLXHacInitialStepLT");
+    initialStep.SetAlias("Initial");
+    for (const char* const container : initialContainers) {
+        Add(initialStep, container);
+    }
+    Add(analysisCase, "HLXJobContainerLT");
+    Add(analysisCase, "HLXHacSolutionLT");
+    return analysisCase;
+}
+
+Feature& AddElementBehavior(Feature& analysisCase)
+{
+    for (Feature* const child : analysisCase.Children()) {
+        if (child->Kind().IsKindOf(behaviorType)) {
+            return *child;
+        }
+    }
+    return Add(analysisCase, behaviorType);
+}
+
+}  // namespace hlx

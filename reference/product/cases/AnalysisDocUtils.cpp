@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+// What an analysis document holds, found without going through its interfaces one by one.
+#include "HLXProductUtilities.h"
+#include "host/analysis/AnalysisObjects.h"
+#include "host/system/Probe.h"
+
+using vex::Document;
+using vex::DocumentArgument;
+using vex::Feature;
+using vex::In;
+using vex::Out;
+using vex::Probe;
+
+namespace {
+
+const Document* AnalysisDocument(const VEXDocument* document)
+{
+    const Document* const found = Document::From(document);
+    return found == nullptr || found->DocType() != vex::DocumentType::Analysis ? nullptr : found;
+}
+
+}  // namespace
+
+HRESULT HLXAnalysisDocUtils::GetAnalysisManager(VEXISamAnalysisManager_var& manager,
+                                                const VEXDocument* document)
+{
+    return Probe<"HLXAnalysisDocUtils::GetAnalysisManager">(
+        [&]() -> HRESULT {
+            manager.Reset();
+            const Document* const found = AnalysisDocument(document);
+            if (found == nullptr) {
+                return E_INVALIDARG;
+            }
+            manager = vex::FaceOf<VEXISamAnalysisManager>(vex::AnalysisManagerOf(*found));
+            return manager == nullptr ? E_FAIL : S_OK;
+        },
+        Out(manager), In(DocumentArgument{document}));
+}
+
+HRESULT HLXAnalysisDocUtils::GetAllAnalysisCases(VEXListValVEXBaseUnknown_var& cases,
+                                                 VEXDocument* document)
+{
+    return Probe<"HLXAnalysisDocUtils::GetAllAnalysisCases">(
+        [&]() -> HRESULT {
+            const Document* const found = AnalysisDocument(document);
+            if (found == nullptr) {
+                return E_INVALIDARG;
+            }
+            const Feature* const manager = vex::AnalysisManagerOf(*found);
+            if (manager == nullptr) {
+                return E_FAIL;
+            }
+            for (const Feature* const model : manager->Children()) {
+                if (vex::Offers<VEXISamAnalysisModel>(*model)) {
+                    vex::AppendChildren<VEXISamAnalysisCase>(*model, cases);
+                }
+            }
+            return S_OK;
+        },
+        Out(cases), In(DocumentArgument{document}));
+}
+
+VEXDocument* HLXAnalysisDocUtils::GetDocument(const VEXISamAnalysisCase_var& analysisCase)
+{
+    return Probe<"HLXAnalysisDocUtils::GetDocument">(
+        [&]() -> VEXDocument* {
+            const Document* const owner = Document::OwnerOf(analysisCase.Get());
+            return owner == nullptr ? nullptr : owner->AsVEXDocument();
+        },
+        In(analysisCase));
+}

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reading the catalogue's text.
+#include "product/catalog/CatalogFile.h"
+
+#include "product/catalog/CatalogMessage.h"
+#include "product/catalog/CatalogValue.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace hlx {
+
+namespace {
+
+using vex::AttributeDefinition;
+using vex::LateTypeDefinition;
+
+/// Letters, digits and '_', a letter first: what a tree dump and an input file can show unquoted.
+bool IsName(std::string_view name)
+{
+    const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return !name.empty() && name.size() <= 100 && isLetter(name.front()) &&
+           std::ranges::all_of(name, [&](char c) { return isLetter(c) || isDigit(c) || c == '_'; });
+}
+
+/// Reads one catalogue; the first mistake ends the reading.
+class CatalogReader
+{
+public:
+    CatalogReader(std::string_view fileName, std::vector<LateTypeDefinition>& types,
+                  std::string& error)
+        : _fileName(fileName), _types(types), _error(error)
+    {}
+
+    bool Read(std::string_view text)
+    {
+        const toml::parse_result parsed = toml::parse(text);
+        if (parsed.failed()) {
+            return Refuse(
+                parsed.error().source().begin.line, {},
+                "no TOML: " + QuotedText(parsed.error().description()) + "; correct the line");
+        }
+        const toml::table& root = parsed.table();
+        const toml::node* const types = root.get("type");
+        if (!HasOnlyKeys(root, {"type"}, {})) {
+            return false;
+        }
+        const toml::array* const list = types == nullptr ? nullptr : types->as_array();
+        if (list == nullptr || list->empty()) {
+            return Refuse(types == nullptr ? 1 : LineOf(*types), {},
+                          "no types in it; write each type below a line [[type]]");
+        }
+        return std::ranges::all_of(*list,
+                                   [this](const toml::node& type) { return ReadType(type); });
+    }
+
+private:
+    static std::size_t LineOf(const toml::node& node) { return node.source().begin.line; }
+
+    bool Refuse(std::size_t line, std::string_view entry, std::string_view reason)
+    {
+        _error = CatalogMessage(_fileName, line, entry, reason);
+        return false;
+    }
+
+    bool HasOnlyKeys(const toml::table& table, std::initializer_list<std::string_view> known,
+                     std::string_view entry)
+    {
+        for (const auto& [key, node] : table) {
+            if (std::ranges::find(known, key.str()) == known.end()) {
+                return Refuse(
+                    key.source().begin.line, entry,
+                    "unknown key " + QuotedText(key.str()) + "; remove it or correct its name");
+            }
+        }
+        return true;
+    }
+
+    /// The text under a key; `needed` refuses its absence.
+    bool ReadText(const toml::table& table, std::string_view key, std::string_view entry,
+                  bool needed, std::string& text)
+    {
+        const toml::node* const node = table.get(key);
+        if (node == nullptr) {
+            return !needed || Refuse(LineOf(table), entry, "no " + QuotedText(key) + "; add it");
+        }
+        if (!node->is_string()) {
+            return Refuse(LineOf(*node), entry,
+                          QuotedText(key) + " is no text; write it in quotes");
+        }
+        text = node->as_string()->get();
+        return true;
+    }
+
+    bool ReadName(const toml::table& table, std::string_view entry, std::string& name)
+    {
+        if (!ReadText(table, "name", entry, true, name)) {
+            return false;
+        }
+        return IsName(name) ||
+               Refuse(LineOf(*table.get("name")), entry,
+                      "the name " + QuotedText(name) +
+                          " is none; use up to 100 letters, digits and '_', a letter first");
+    }
+
+    bool ReadType(const toml::node& node)
+    {
+        const toml::table* const table = node.as_table();
+        const std::string count = "type " + std::to_string(_types.size() + 1);
+        if (table == nullptr) {
+            return Refuse(LineOf(node), count, "no table; write each type below a line [[type]]");
+        }
+        LateTypeDefinition type;
+        if (!ReadName(*table, count, type.name)) {
+            return false;
+        }
+        const std::string entry = "type " + QuotedText(type.name);
+        if (!HasOnlyKeys(*table, {"name", "base", "attributes"}, entry) ||
+            !ReadText(*table, "base", entry, false, type.base)) {
+            return false;
+        }
+        if (_attributeNames.contains(type.name)) {
+            return Refuse(LineOf(*table), entry, "defined twice; remove or rename one of the two");
+        }
+        std::set<std::string, std::less<>> names;
+        if (table->contains("base")) {
+            const auto base = _attributeNames.find(type.base);
+            if (base == _attributeNames.end()) {
+                return Refuse(LineOf(*table->get("base")), entry,
+                              "its base " + QuotedText(type.base) +
+                                  " does not stand further up; correct the name or the order");
+            }
+            names = base->second;
+        }
+        if (const toml::node* const attributes = table->get("attributes")) {
+            const toml::array* const list = attributes->as_array();
+            if (list == nullptr) {
+                return Refuse(LineOf(*attributes), entry,
+                              "\"attributes\" is no list; write [{ name = …, kind = … }, …]");
+            }
+            for (const toml::node& attribute : *list) {
+                if (!ReadAttribute(attribute, entry, type, names)) {
+                    return false;
+                }
+            }
+        }
+        _attributeNames.emplace(type.name, std::move(names));
+        _types.push_back(std::move(type));
+        return true;
+    }
+
+    bool ReadAttribute(const toml::node& node, const std::string& owner, LateTypeDefinition& type,
+                       std::set<std::string, std::less<>>& names)
+    {
+        const toml::table* const table = node.as_table();
+        const std::string count =
+            owner + ", attribute " + std::to_string(type.attributes.size() + 1);
+        if (table == nullptr) {
+            return Refuse(LineOf(node), count, "no table; write { name = …, kind = … }");
+        }
+        AttributeDefinition attribute;
+        if (!ReadName(*table, count, attribute.name)) {
+            return false;
+        }
+        const std::string entry = owner + ", attribute " + QuotedText(attribute.name);
+        std::string kindText;
+        if (!HasOnlyKeys(*table, {"name", "kind", "default"}, entry) ||
+            !ReadText(*table, "kind", entry, true, kindText)) {
+            return false;
+        }
+        const CatalogKind* const kind = FindCatalogKind(kindText);
+        if (kind == nullptr) {
+            return Refuse(
+                LineOf(*table->get("kind")), entry,
+                "unknown kind " + QuotedText(kindText) +
+                    "; use boolean, integer, double, text, reference, link, list or table");
+        }
+        if (!names.insert(attribute.name).second) {
+            return Refuse(LineOf(*table), entry,
+                          "the type or its base has it already; remove or rename one of the two");
+        }
+        attribute.kind = kind->kind;
+        attribute.defaultValue = vex::EmptyValue(attribute.kind);
+        if (const toml::node* const given = table->get("default");
+            given != nullptr && !ReadDefault(*given, attribute.kind, attribute.defaultValue)) {
+            return Refuse(LineOf(*given), entry,
+                          "the default is none of kind " + QuotedText(kind->name) + "; write " +
+                              std::string(kind->form));
+        }
+        type.attributes.push_back(std::move(attribute));
+        return true;
+    }
+
+    std::string_view _fileName;
+    std::vector<LateTypeDefinition>& _types;
+    std::string& _error;
+    std::map<std::string, std::set<std::string, std::less<>>, std::less<>>
+        _attributeNames;  ///< by type
+};
+
+}  // namespace
+
+bool ReadCatalog(std::string_view text, std::string_view fileName,
+                 std::vector<LateTypeDefinition>& types, std::string& error)
+{
+    types.clear();
+    return CatalogReader(fileName, types, error).Read(text);
+}
+
+}  // namespace hlx

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: Apache-2.0
+// Features as keyword lines, data lines and blocks.
+#include "product/inputfile/FeatureWriter.h"
+
+#include "host/system/Texts.h"
+#include "product/treedump/ValueText.h"
+
+#include <algorithm>
+
+namespace hlx {
+
+namespace {
+
+bool IsOmitted(const vex::Feature& feature)
+{
+    return RuleFor(feature.Kind().name).shape == KeywordShape::Omitted;
+}
+
+bool HasContents(const vex::Feature& feature)
+{
+    return !std::ranges::all_of(feature.Children(),
+                                [](const vex::Feature* child) { return IsOmitted(*child); });
+}
+
+/// "[3]": one data line of three numbers.
+void AppendSize(std::string& out, const vex::DoubleList& list)
+{
+    out += '[';
+    vex::text::AppendNumber(out, static_cast<std::int64_t>(list.size()));
+    out += ']';
+}
+
+std::size_t RowsOf(const vex::DoubleTable& table)
+{
+    return table.columns == 0 ? 0 : table.cells.size() / table.columns;
+}
+
+/// "[4x2]": four data lines of two numbers.
+void AppendSize(std::string& out, const vex::DoubleTable& table)
+{
+    out += '[';
+    vex::text::AppendNumber(out, static_cast<std::int64_t>(RowsOf(table)));
+    out += 'x';
+    vex::text::AppendNumber(out, static_cast<std::int64_t>(table.columns));
+    out += ']';
+}
+
+}  // namespace
+
+void FeatureWriter::Write(const vex::Feature& feature)
+{
+    std::vector<Level> levels;
+    if (!IsOmitted(feature)) {
+        Open(feature, levels);
+    }
+    while (!levels.empty()) {
+        Level& level = levels.back();
+        const std::vector<vex::Feature*>& children = level.feature->Children();
+        if (level.nextChild == children.size()) {
+            if (level.closed) {
+                _deck.End(level.rule->keyword);
+            }
+            levels.pop_back();
+            continue;
+        }
+        const vex::Feature& child = *children[level.nextChild++];
+        if (!IsOmitted(child)) {
+            Open(child, levels);
+        }
+    }
+}
+
+void FeatureWriter::Open(const vex::Feature& feature, std::vector<Level>& levels)
+{
+    const KeywordRule& rule = RuleFor(feature.Kind().name);
+    const bool isBlock = rule.shape == KeywordShape::Block;
+    const bool says = !isBlock && HasContents(feature);
+    _deck.Keyword(rule.keyword);
+    if (IsGeneric(rule)) {
+        _deck.Word("TYPE", feature.Kind().name);
+    }
+    if (!feature.Alias().empty()) {
+        _deck.Quoted("NAME", feature.Alias());
+    }
+    if (says) {
+        _deck.Parameter("CONTENTS");
+    }
+    WriteParameters(feature);
+    _deck.EndLine();
+    WriteData(feature);
+    if (!rule.procedure.empty()) {
+        _deck.KeywordLine(rule.procedure);
+    }
+    levels.push_back({&feature, &rule, 0, isBlock || says});
+}
+
+void FeatureWriter::WriteParameters(const vex::Feature& feature)
+{
+    const auto& definitions = feature.Kind().attributes;
+    for (std::size_t i = 0; i < definitions.size(); ++i) {
+        _deck.Word(definitions[i].name, "");
+        const vex::Value& value = feature.Get(static_cast<int>(i));
+        if (const auto* list = std::get_if<vex::Boxed<vex::DoubleList>>(&value)) {
+            AppendSize(_deck.Text(), **list);
+        } else if (const auto* table = std::get_if<vex::Boxed<vex::DoubleTable>>(&value)) {
+            AppendSize(_deck.Text(), **table);
+        } else {
+            AppendScalar(_deck.Text(), value, feature, _paths);
+        }
+    }
+}
+
+void FeatureWriter::WriteData(const vex::Feature& feature)
+{
+    const auto& definitions = feature.Kind().attributes;
+    for (std::size_t i = 0; i < definitions.size(); ++i) {
+        const vex::Value& value = feature.Get(static_cast<int>(i));
+        if (const auto* list = std::get_if<vex::Boxed<vex::DoubleList>>(&value)) {
+            _deck.Data(**list);
+        } else if (const auto* table = std::get_if<vex::Boxed<vex::DoubleTable>>(&value)) {
+            for (std::size_t row = 0; row < RowsOf(**table); ++row) {
+                _deck.Data({&(*table)->cells[row * (*table)->columns], (*table)->columns});
+            }
+        }
+    }
+}
+
+}  // namespace hlx

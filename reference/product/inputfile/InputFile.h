@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+// Makes the text of an input file from analysis cases: heading, structure, model, cases
+// (docs/input-file.md).
+#pragma once
+
+#include "host/feature/Feature.h"
+
+#include <string>
+#include <vector>
+
+namespace hlx {
+
+enum class InputFileForm { Structured, Flat };
+
+/// Appends the text of the input file. The cases are in trees and of one analysis model. False,
+/// with the reason in `error`, when the structure that the analysis is linked to cannot be read.
+bool MakeInputFile(const std::vector<vex::Feature*>& cases, InputFileForm form, std::string& text,
+                   std::string& error);
+
+/// True for a feature that a deck is made of.
+bool IsAnalysisCase(const vex::Feature& feature);
+
+}  // namespace hlx

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+// The parts of an analysis and where they stand, as the product structure of its linked documents
+// tells it, without levels: sub-assemblies are resolved into the names and places of their parts.
+#pragma once
+
+#include "host/product/GeometryKernel.h"
+
+#include <string>
+#include <vector>
+
+namespace vex {
+class Document;
+}
+
+namespace hlx {
+
+struct PartInstance
+{
+    std::string name;      ///< unique: aliases from the top down, joined by '/'
+    std::size_t part = 0;  ///< indexes Structure::parts
+    vex::Placement placement{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0};
+};
+
+struct Structure
+{
+    std::vector<std::string> parts;  ///< unique names, in the order of their first use
+    std::vector<PartInstance> instances;
+};
+
+/// Reads the structure of what `analysis` is linked to, opening documents as needed; they stay
+/// open. False, with the reason in `error`, when a document cannot be opened, when the structure
+/// holds itself or a placement is none, or when it is deeper than 256 levels or has more than a
+/// million parts or products.
+bool ReadStructure(vex::Document& analysis, Structure& structure, std::string& error);
+
+}  // namespace hlx

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+// What stands in a new step.
+#include "product/steps/StepBuilder.h"
+
+#include "host/feature/FeatureTree.h"
+#include "host/system/Texts.h"
+
+#include <algorithm>
+
+namespace hlx {
+
+namespace {
+
+using vex::Feature;
+using vex::LateType;
+
+constexpr const char* stepContainers[] = {
+    "HLXLoadContainerLT",
+    "HLXBoundaryConditionContainerLT",
+    "HLXInteractionContainerLT",
+    "HLXTemperatureContainerLT",
+};
+
+/// Kinds of step that cannot be added: the bases, and the one that every case has from the start.
+constexpr std::string_view otherSteps[] = {
+    "HLXStepLT",
+    "HLXIncrementedStepLT",
+    "HLXHacInitialStepLT",
+};
+
+Feature* SimulationHistory(const Feature& analysisCase)
+{
+    const auto isHistory = [](const Feature* child) {
+        return child->Kind().IsKindOf("HLXHacSimHistLT");
+    };
+    const auto found = std::ranges::find_if(analysisCase.Children(), isHistory);
+    return found == analysisCase.Children().end() ? nullptr : *found;
+}
+
+}  // namespace
+
+Feature* AddStep(Feature& analysisCase, std::string_view lateType, std::string_view name,
+                 std::string& error)
+{
+    vex::LateTypes& types = vex::LateTypes::Instance();
+    Feature* const history = SimulationHistory(analysisCase);
+    const LateType* const kind = types.Find(lateType);
+    if (history == nullptr) {
+        error = "the feature is no analysis case with a simulation history; give an analysis case";
+        return nullptr;
+    }
+    if (kind == nullptr || !kind->IsKindOf("HLXStepLT") ||
+        std::ranges::find(otherSteps, kind->name) != std::end(otherSteps)) {
+        error.clear();
+        vex::text::AppendQuoted(error, lateType);
+        error += " is no kind of step that can be added; give one such as HLXGeneralStaticStepLT";
+        return nullptr;
+    }
+    if (!vex::text::IsValid(name)) {
+        error = "the step's name ";
+        vex::text::AppendQuoted(error, name);
+        error += " is not valid UTF-8; give another name";
+        return nullptr;
+    }
+    Feature& step = history->Tree()->Create(*kind, history);
+    if (!name.empty()) {
+        step.SetAlias(name);
+    }
+    for (const char* const container : stepContainers) {
+        step.Tree()->Create(types.Require(container), &step);
+    }
+    return &step;
+}
+
+}  // namespace hlx
