@@ -18,6 +18,7 @@ public:
     ///         cannot be made and the query's own result when it has no writing interface
     static HRESULT WriteInputFileForAnalysisCase(VEXISamAnalysisCase* analysisCase,
                                                  VEXUnicodeString inputFilePath);
+    /// As above.
     static HRESULT WriteInputFileForAnalysisCase(VEXISamAnalysisCase_var analysisCase,
                                                  VEXUnicodeString inputFilePath);
 

@@ -32,7 +32,7 @@ public:
 
     /// Copies share the load factory, the part document's container and the log file, without a
     /// reference of their own: only one of them may be destroyed, unless InitializeClassMembers
-    /// makes the other forget what it shares.
+    /// makes the other forget what it shares. What an assignment replaces is not released.
     HLXBaseTestCase(const HLXBaseTestCase& other);
     HLXBaseTestCase& operator=(const HLXBaseTestCase& other);
 
@@ -192,30 +192,34 @@ protected:
     /// without releasing them.
     void InitializeClassMembers();
 
-    VEXUnicodeString _InputDirectory;   ///< argv[1]
-    VEXUnicodeString _InputFilePath;    ///< argv[1] and argv[2] joined; the document, or its type
-    VEXUnicodeString _OutputDirectory;  ///< argv[3]: where every file goes that the library writes
-    VEXUnicodeString _HollexFile1Path;  ///< argv[3] and argv[4] joined: first solver input file
-    VEXUnicodeString _HollexFile2Path;  ///< argv[3] and argv[5] joined: second solver input file
-    VEXUnicodeString _DumpTreeTitle;    ///< heading of the feature-tree dump
-    VEXUnicodeString _DumpTreeFileName;
-    VEXUnicodeString _TimeLogFilePath;
-    VEXUnicodeString _HollexFile1Name;            ///< argv[4]
-    VEXUnicodeString _HollexFile2Name;            ///< argv[5]
-    VEXUnicodeString _IntermediateInputFilePath;  ///< argv[3] and argv[2] joined: a copy
-    VEXUnicodeString _InputFileName;              ///< argv[2]
-    int _PartIndex = 1;                           ///< which part of the product is taken, from 1
-    VEXDocument* _Document = nullptr;             ///< the analysis document, not counted
-    VEXListValVEXBaseUnknown_var _AnalysisCases;
-    VEXIProduct_var _RootProduct;
-    VEXBody_var _Body;
-    VEXBaseUnknown* _LoadFactory = nullptr;                ///< owned
+    VEXUnicodeString _InputDirectory;  ///< argv[1]
+    /// argv[1] and argv[2] joined: the document to open; its ending is the type to make.
+    VEXUnicodeString _InputFilePath;
+    VEXUnicodeString _OutputDirectory;   ///< argv[3]: where every file goes that the library writes
+    VEXUnicodeString _HollexFile1Path;   ///< argv[3] and argv[4] joined: first solver input file
+    VEXUnicodeString _HollexFile2Path;   ///< argv[3] and argv[5] joined: second solver input file
+    VEXUnicodeString _DumpTreeTitle;     ///< heading of the feature-tree dump
+    VEXUnicodeString _DumpTreeFileName;  ///< its file name in the output directory
+    VEXUnicodeString _TimeLogFilePath;   ///< path of the timing log
+    VEXUnicodeString _HollexFile1Name;   ///< argv[4]
+    VEXUnicodeString _HollexFile2Name;   ///< argv[5]
+    /// argv[3] and argv[2] joined: place for an intermediate copy of the input document.
+    VEXUnicodeString _IntermediateInputFilePath;
+    VEXUnicodeString _InputFileName;  ///< argv[2]
+    int _PartIndex = 1;               ///< which part of the product is taken, from 1
+    /// The analysis document. Not counted: it dangles once somebody else removes it from the
+    /// session, and no operation may be called then.
+    VEXDocument* _Document = nullptr;
+    VEXListValVEXBaseUnknown_var _AnalysisCases;  ///< analysis cases of the document
+    VEXIProduct_var _RootProduct;                 ///< root product that the document is linked to
+    VEXBody_var _Body;                            ///< body of the part
+    VEXBaseUnknown* _LoadFactory = nullptr;       ///< owned
     VEXIContainerOfDocument* _PartDocContainer = nullptr;  ///< owned; of the part document
     VEXINavigateObject_var _NavigateObject;                ///< root of the feature-tree dump
-    VEXISpecObject_var _MechanicalPart;
-    VEXILinkableObject_var _PartLink;  ///< the part document as the target of links
-    VEXISamAnalysisContainer_var _AnalysisContainer;
-    VEXISpecObject_var _AmplitudeFeature;
+    VEXISpecObject_var _MechanicalPart;                    ///< mechanical part feature of the part
+    VEXILinkableObject_var _PartLink;                 ///< the part document as the target of links
+    VEXISamAnalysisContainer_var _AnalysisContainer;  ///< analysis container of the document
+    VEXISpecObject_var _AmplitudeFeature;             ///< amplitude made last
     /// Open from CreateTimeLoggingFile to StopTimer, dangling after it.
     std::FILE* _TimeLogFile = nullptr;
 

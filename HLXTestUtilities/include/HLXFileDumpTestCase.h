@@ -19,8 +19,9 @@ public:
 
     /// Switches flat input files off for its duration, brings the document's data up to this
     /// release, dumps the feature tree, writes the input files, removes the document and prints
-    /// "Program Ends". A document without an analysis case is only removed. What the input-file
-    /// writing answers is not looked at.
+    /// "Program Ends". A document without an analysis case is only removed, as is one that cannot
+    /// be navigated and has none; with cases at hand the files are written even then. What the
+    /// input-file writing answers is not looked at.
     /// @return result of the removal; E_FAIL, or the negative result of the data upgrade, when the
     ///         first analysis case is none, has no document, or its document cannot be upgraded:
     ///         the document then stays loaded and "Program Ends" is not printed

@@ -14,7 +14,8 @@ public:
     /// @param name  name of the session, copied; null stands for the empty name
     explicit HLXSession(const char* name);
 
-    /// Copies share the owned name: only one of them may be destroyed.
+    /// Copies share the owned name: only one of them may be destroyed. What an assignment replaces
+    /// is neither freed nor its session deleted.
     HLXSession(const HLXSession& other);
     HLXSession& operator=(const HLXSession& other);
 

@@ -13,7 +13,8 @@ public:
     /// Looks the settings controller up; nothing is changed yet.
     HLXSetUnitSystem();
 
-    /// Copies share the owned interfaces: only one of them may be destroyed.
+    /// Copies share the owned interfaces: only one of them may be destroyed. What an assignment
+    /// replaces is not released.
     HLXSetUnitSystem(const HLXSetUnitSystem& other);
     HLXSetUnitSystem& operator=(const HLXSetUnitSystem& other);
 
@@ -22,7 +23,8 @@ public:
     ~HLXSetUnitSystem() override;
 
     /// Saves the units in force, sets the four units in the order of the arguments and stores them.
-    /// A second call saves what the first one set.
+    /// A second call saves what the first one set and drops the repository that the first one held,
+    /// without releasing it.
     /// @param length, mass, time, temperature  units by their symbols, such as "mm", "kg", "s", "K"
     /// @return result of storing; E_FAIL without a controller or without a way to store; otherwise
     ///         the result of the first getter or setter that failed, with what was set before it

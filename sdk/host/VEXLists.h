@@ -24,9 +24,13 @@ public:
 
     void Append(Value value) { _values.push_back(std::move(value)); }
 
+    /// Appends the values of another list, or of this one.
     void Append(const VEXList& tail)
     {
-        _values.insert(_values.end(), tail._values.begin(), tail._values.end());
+        const std::size_t count = tail._values.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            Append(Value(tail._values[i]));
+        }
     }
 
     /// Removes the value at `index` (1-based); outside the list nothing happens.

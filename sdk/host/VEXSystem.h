@@ -16,7 +16,8 @@ inline constexpr std::size_t VEXMaxPathSize = 4096;
 /// null
 VEX_EXPORT HRESULT VEXMakePath(const char* directory, const char* name, char* path);
 
-/// Splits a path at its last separator. Without one the directory is empty; of a path below the root it is "/".
+/// Splits a path at its last separator. Without one the directory is empty; of a path below the
+/// root it is "/".
 /// @param directory, name  buffers of VEXMaxPathSize bytes
 /// @return S_OK; E_INVALIDARG (and empty results) when the path is longer than the buffers or a
 /// pointer is null

@@ -77,12 +77,11 @@ HRESULT HLXAnalysisTestUtils::WriteFeatTreeFileForAnalysisCase(VEXDocument*& doc
     model.Reset();
 
     HLXGenString tree;
+    // A tree that cannot be dumped leaves the text empty and is not reported; kept.
     DumpFeatureTree(navigateObject.Get(), 0, tree);
 
     // Whether the file opens is not checked; kept.
-    std::ofstream file;
-    file.imbue(std::locale::classic());
-    file.open(fileName.ConvertToChar(), std::ios::out);
+    std::ofstream file(fileName.ConvertToChar(), std::ios::out);
     file << "   Propagation Load Test\n\nFeature tree:\n\n" << tree.c_str() << "\n";
     file.close();
     return S_OK;

@@ -27,6 +27,7 @@ HLXBaseTestCase::~HLXBaseTestCase()
 
 void HLXBaseTestCase::InitializeClassMembers()
 {
+    // What the case owned is dropped without a release; kept.
     _PartIndex = 1;
     _Document = nullptr;
     _LoadFactory = nullptr;
@@ -62,6 +63,7 @@ long HLXBaseTestCase::PostProcess()
 unsigned char HLXBaseTestCase::ProcessArguments(int argc, char** const argv)
 {
     if (VerifyArguments(argc) == 0) return 0;
+    // Fewer or more are accepted too, without a path; kept.
     if (argc < 3 || argc > 9 || argv == nullptr) return 1;
 
     const auto take = [](const char* directory, const char* name, VEXUnicodeString& directoryMember,

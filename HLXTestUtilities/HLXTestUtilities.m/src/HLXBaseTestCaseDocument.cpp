@@ -22,7 +22,7 @@ long HLXBaseTestCase::OpenDocument()
 
 long HLXBaseTestCase::NewDocument()
 {
-    // The path of the document serves as its type.
+    // The path of the document serves as its type; kept.
     const long rc = VEXDocumentServices::New(_InputFilePath, _Document);
     if (SUCCEEDED(rc) && _Document != nullptr) {
         HLXConsole::Print("**********create doc ok\n");
@@ -36,6 +36,7 @@ long HLXBaseTestCase::NewDocument()
 
 long HLXBaseTestCase::SetCurrentDocument(const char* path)
 {
+    // The former document is forgotten, not removed; kept.
     _InputFilePath = path;
     _Document = nullptr;
     return OpenDocument();
@@ -102,6 +103,7 @@ long HLXBaseTestCase::InitializeAnalysisCaseFromDocument()
         return E_FAIL;
     }
     VEXListValVEXBaseUnknown_var cases;
+    // The list tells, the result is not looked at; kept.
     model->GetAnalysisCases(cases);
     if (cases.Size() == 0) {
         HLXConsole::Print("ERROR Could not get the Analysis Case!\n");
@@ -173,6 +175,7 @@ long HLXBaseTestCase::InitializeNavigateObject(VEXISamAnalysisManager_var manage
     long rc = S_OK;
     if (manager) rc = manager->GetAllAnalysisModels(models);
     if (FAILED(rc)) return rc;
+    // The size is not looked at first; kept.
     _NavigateObject = models[1];
     if (_NavigateObject == nullptr) {
         // No end of line; kept.

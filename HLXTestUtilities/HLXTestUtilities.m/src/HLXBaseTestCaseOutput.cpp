@@ -34,7 +34,7 @@ void HLXBaseTestCase::DumpFeatTree(char* openMode)
 void HLXBaseTestCase::SaveAsDocument(VEXDocument* document, VEXUnicodeString name)
 {
     if (document == nullptr) return;
-    // The empty type keeps the document's own.
+    // The empty type keeps the document's own. A failure is not reported; kept.
     VEXDocumentServices::SaveAs(*document, HLXPath::Join(_OutputDirectory, name), "", 1);
 }
 

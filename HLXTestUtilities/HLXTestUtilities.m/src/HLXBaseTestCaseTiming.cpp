@@ -3,11 +3,14 @@
 #include "HLXBaseTestCase.h"
 
 #include "HLXConsole.h"
+#include "HLXNumber.h"
 #include "HLXPath.h"
+#include "VEXSystem.h"
 #include "VEXTime.h"
 
 #include <charconv>
 #include <ctime>
+#include <string>
 
 namespace {
 
@@ -15,13 +18,6 @@ namespace {
 std::int64_t creationTime = 0;
 std::clock_t startReading = 0;
 std::clock_t stopReading = 0;
-
-VEXUnicodeString Number(int number)
-{
-    VEXUnicodeString text;
-    text.BuildFromNum(number);
-    return text;
-}
 
 /// A log that could not be opened takes no text.
 void Write(std::FILE* file, const char* text)
@@ -55,8 +51,8 @@ void HLXBaseTestCase::CreateTimeLoggingFile(char* name)
 
     VEXUnicodeString& path = _TimeLogFilePath;
     path = name;
-    path += "_" + system + "_" + Number(time.GetDay()) + "_" + Number(time.GetMonth()) + "_" +
-            Number(time.GetYear());
+    path += "_" + system + "_" + HLXNumber::Decimal(time.GetDay()) + "_" +
+            HLXNumber::Decimal(time.GetMonth()) + "_" + HLXNumber::Decimal(time.GetYear());
     // Three replacements, each of the first '/': a fourth one stays; kept.
     for (int i = 0; i < 3; ++i) {
         path.ReplaceSubString("/", "_");
@@ -71,13 +67,15 @@ void HLXBaseTestCase::CreateTimeLoggingFile(char* name)
     Write(_TimeLogFile, "********************\n");
     Write(_TimeLogFile, "* Timelogging File *\n");
     Write(_TimeLogFile, "********************\n\n");
-    Write(_TimeLogFile, (system + "\n").ConvertToChar());
-    const VEXUnicodeString date = "Date :\t\t\t\t\t" + Number(time.GetDay()) + " " +
-                                  Number(time.GetMonth()) + " " + Number(time.GetYear()) + "\n";
+    Write(_TimeLogFile, system.ConvertToChar());
+    Write(_TimeLogFile, "\n");
+    const VEXUnicodeString date = "Date :\t\t\t\t\t" + HLXNumber::Decimal(time.GetDay()) + " " +
+                                  HLXNumber::Decimal(time.GetMonth()) + " " +
+                                  HLXNumber::Decimal(time.GetYear()) + "\n";
     Write(_TimeLogFile, date.ConvertToChar());
-    const VEXUnicodeString start = "Start Time :\t\t\t" + Number(time.GetHour()) + " " +
-                                   Number(time.GetMinute()) + " " + Number(time.GetSecond()) +
-                                   "\n\n";
+    const VEXUnicodeString start = "Start Time :\t\t\t" + HLXNumber::Decimal(time.GetHour()) + " " +
+                                   HLXNumber::Decimal(time.GetMinute()) + " " +
+                                   HLXNumber::Decimal(time.GetSecond()) + "\n\n";
     Write(_TimeLogFile, start.ConvertToChar());
 }
 

@@ -3,6 +3,7 @@
 #include "HLXFileDumpTestCase.h"
 
 #include "HLXConsole.h"
+#include "HLXNumber.h"
 #include "HLXPath.h"
 #include "HLXProductUtilities.h"
 #include "HLXToolsOptionsManager.h"
@@ -54,11 +55,10 @@ long HLXFileDumpTestCase::PostProcess()
         char openMode[] = "w";
         DumpFeatTree(openMode);
 
+        // A case that cannot be written does not stop the others; kept.
         if (count >= 2) {
             for (int i = 1; i <= count; ++i) {
-                VEXUnicodeString number;
-                number.BuildFromNum(i);
-                const VEXUnicodeString path = _HollexFile1Path + "_case_" + number;
+                const VEXUnicodeString path = _HollexFile1Path + "_case_" + HLXNumber::Decimal(i);
                 WriteInputFileForAnalysisCase(i, path.ConvertToChar());
             }
         } else {

@@ -30,6 +30,7 @@ void HLXTestCaseDriver::Run(int argc, char** const argv)
         auto* const testCase = static_cast<HLXBaseTestCase*>(_TestCases[i]);
         if (testCase != nullptr &&
             SUCCEEDED(testCase->PreProcess(argc, argv, HLXBaseTestCase::OpenExisting))) {
+            // What these two answer is not looked at; kept.
             testCase->Process();
             testCase->PostProcess();
         }

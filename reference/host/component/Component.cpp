@@ -19,16 +19,6 @@ VEXBaseUnknown* FindOfComponent(const VEXBaseUnknown& component, const IID& iid)
     return static_cast<const Component&>(component).FindInterface(iid);
 }
 
-VEXMetaClass* MetaObjectOf(const ComponentType& type)
-{
-    const VEXMetaClass* const base =
-        type.base == nullptr ? VEXBaseUnknown::MetaObject() : MetaObjectOf(*type.base);
-    // A row that cannot be instantiated by name is that of a late type.
-    return VEXMetaClass::Get(type.name.c_str(), VEXImplementationClass, base,
-                             type.create == nullptr ? type.name.c_str() : "VEXNull",
-                             type.library.c_str());
-}
-
 }  // namespace
 
 Component::Component(const ComponentType& type, std::uint32_t initialCount) noexcept : _type(&type)
@@ -106,6 +96,16 @@ int Component::IsAKindOf(const char* name) const
                    (_type->IsKindOf(name) || VEXBaseUnknown::MetaObject()->IsAKindOf(name) != 0)
                ? 1
                : 0;
+}
+
+VEXMetaClass* Component::MetaObjectOf(const ComponentType& type)
+{
+    const VEXMetaClass* const base =
+        type.base == nullptr ? VEXBaseUnknown::MetaObject() : MetaObjectOf(*type.base);
+    // A row that cannot be instantiated by name is that of a late type.
+    return VEXMetaClass::Get(type.name.c_str(), VEXImplementationClass, base,
+                             type.create == nullptr ? type.name.c_str() : "VEXNull",
+                             type.library.c_str());
 }
 
 VEXMetaClass* Component::GetMetaObject() const

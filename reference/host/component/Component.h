@@ -34,6 +34,9 @@ public:
 
     const ComponentType& Type() const noexcept { return *_type; }
 
+    /// The run-time class of the components of a row.
+    static VEXMetaClass* MetaObjectOf(const ComponentType& type);
+
     /// The adapter for an interface, not counted and not probed; null when the row lacks it.
     VEXBaseUnknown* FindInterface(const IID& iid) const;
 

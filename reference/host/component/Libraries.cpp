@@ -39,7 +39,7 @@ std::string Absolute(const std::string& path)
 {
     std::error_code fault;
     const std::filesystem::path absolute = std::filesystem::absolute(path, fault);
-    return fault ? path : absolute.string();
+    return fault ? path : absolute.lexically_normal().string();
 }
 
 /// The folder of the file that holds the host: of its library, or of the program it was linked
@@ -71,7 +71,7 @@ void* Open(std::string_view name, std::string& file, std::string& error)
     const std::vector<std::string> folders = ComponentTypes::SearchPath();
     for (const std::string& folder : folders) {
         std::error_code ignored;
-        const std::string path = folder + "/" + file;
+        const std::string path = fmt::format("{}/{}", folder, file);
         if (!std::filesystem::exists(path, ignored)) {
             continue;
         }

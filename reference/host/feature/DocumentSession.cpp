@@ -120,6 +120,9 @@ HRESULT DocumentSession::New(std::string_view type, Document*& document, std::st
                 "in one of them.";
         return E_INVALIDARG;
     }
+    if (!LateTypes::Instance().AreLoaded(error)) {
+        return E_FAIL;
+    }
     _documents.push_back(Make(*known).release());
     document = _documents.back();
     return S_OK;

@@ -2,6 +2,7 @@
 // A feature's name and attributes.
 #include "host/feature/Feature.h"
 
+#include "VEXMetaClass.h"
 #include "host/feature/FeatureTree.h"
 #include "host/system/Text.h"
 #include "host/system/Texts.h"
@@ -12,6 +13,23 @@
 #include <utility>
 
 namespace vex {
+
+namespace {
+
+/// The class of a late type: that of its row when it has one of its own, else one below its base's.
+VEXMetaClass* MetaObjectOf(const LateType& lateType)
+{
+    const ComponentType& row = lateType.Row();
+    if (row.name == lateType.name) {
+        return Component::MetaObjectOf(row);
+    }
+    const VEXMetaClass* const base = lateType.base == nullptr ? Component::MetaObjectOf(row)
+                                                              : MetaObjectOf(*lateType.base);
+    return VEXMetaClass::Get(lateType.name.c_str(), VEXImplementationClass, base,
+                             lateType.name.c_str(), row.library.c_str());
+}
+
+}  // namespace
 
 Feature::Feature(FeatureTree& tree, const LateType& lateType, FeatureId id)
     : Component(lateType.Row(), 0), _lateType(&lateType), _tree(&tree), _id(id)
@@ -33,6 +51,11 @@ void Feature::Detach() noexcept
     _alias.reset();
     _children = {};
     _attributes = {};
+}
+
+VEXMetaClass* Feature::GetMetaObject() const
+{
+    return vex::MetaObjectOf(*_lateType);
 }
 
 int Feature::IsAKindOf(const char* name) const

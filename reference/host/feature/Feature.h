@@ -81,6 +81,7 @@ public:
     /// The late type, and whether it is or extends one of that name; other names as the component's
     /// row has them.
     const char* IsA() const override { return _lateType->name.c_str(); }
+    VEXMetaClass* GetMetaObject() const override;
     int IsAKindOf(const char* name) const override;
     int IsNull() const override { return _tree == nullptr ? 1 : 0; }
 

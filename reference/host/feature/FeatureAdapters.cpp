@@ -4,6 +4,7 @@
 #include "host/feature/FeatureAdapters.h"
 
 #include "host/feature/FeatureTree.h"
+#include "host/feature/Refusal.h"
 #include "host/feature/SpecAttribute.h"
 #include "host/system/Probe.h"
 
@@ -11,33 +12,40 @@ namespace vex {
 
 namespace {
 
-/// Visits what stands below `root` and has the interface of that name.
-template <class Visitor>
-void ForEachMember(const Feature& root, const char* interfaceName, Visitor visit)
+void AppendDescendants(const Feature& root, std::vector<Feature*>& descendants)
 {
-    if (root.Tree() == nullptr || interfaceName == nullptr) {
-        return;
+    for (Feature* const child : root.Children()) {
+        FeatureTree::Walk(*child, [&](Feature& feature, int) { descendants.push_back(&feature); });
     }
-    const IID iid = VEXGuidOfName(interfaceName);
-    FeatureTree::Walk(const_cast<Feature&>(root), [&](Feature& feature, int depth) {
-        if (depth > 0 && feature.Type().Find(iid) != nullptr) {
-            visit(feature);
-        }
-    });
+}
+
+/// What stands below a container and has the interface of that name.
+std::vector<Feature*> Members(const Feature& container, const char* interfaceName)
+{
+    std::vector<Feature*> members;
+    if (container.Tree() != nullptr) {
+        AppendDescendants(container, members);
+        KeepImplementing(interfaceName, members);
+    }
+    return members;
 }
 
 }  // namespace
 
+void KeepImplementing(const char* interfaceName, std::vector<Feature*>& features)
+{
+    if (interfaceName == nullptr) {
+        features.clear();
+        return;
+    }
+    const IID iid = VEXGuidOfName(interfaceName);
+    std::erase_if(features,
+                  [&](const Feature* feature) { return feature->Type().Find(iid) == nullptr; });
+}
+
 VEXISpecObject_var AsSpecObject(const Feature* feature)
 {
     return feature == nullptr ? VEXISpecObject_var() : VEXShare(feature->Face<VEXISpecObject>());
-}
-
-void AppendMembers(const Feature& root, const char* interfaceName,
-                   VEXListValVEXISpecObject_var& members)
-{
-    ForEachMember(root, interfaceName,
-                  [&](const Feature& feature) { members.Append(AsSpecObject(&feature)); });
 }
 
 // ---- VEXISpecObject ----
@@ -119,6 +127,12 @@ HRESULT NavigateAdapter::GetSpecObject(VEXISpecObject*& feature) const
 
 // ---- VEXIDescendants ----
 
+bool DescendantsAdapter::AppendBelow(std::vector<Feature*>& below, std::string& /*error*/) const
+{
+    AppendDescendants(Self(), below);
+    return true;
+}
+
 HRESULT DescendantsAdapter::GetAllChildren(const char* interfaceName,
                                            VEXListValVEXISpecObject_var& descendants) const
 {
@@ -127,7 +141,15 @@ HRESULT DescendantsAdapter::GetAllChildren(const char* interfaceName,
             if (Self().Tree() == nullptr) {
                 return E_FAIL;
             }
-            AppendMembers(Self(), interfaceName, descendants);
+            std::vector<Feature*> below;
+            std::string error;
+            if (!AppendBelow(below, error)) {
+                return Refuse(E_FAIL, error);
+            }
+            KeepImplementing(interfaceName, below);
+            for (const Feature* const feature : below) {
+                descendants.Append(AsSpecObject(feature));
+            }
             return S_OK;
         },
         In(interfaceName), Out(descendants));
@@ -138,12 +160,7 @@ HRESULT DescendantsAdapter::GetAllChildren(const char* interfaceName,
 int ContainerAdapter::GetMemberCount(const char* interfaceName) const
 {
     return Probe<"VEXIContainer::GetMemberCount">(
-        [&] {
-            int count = 0;
-            ForEachMember(Self(), interfaceName, [&](const Feature&) { ++count; });
-            return count;
-        },
-        In(interfaceName));
+        [&] { return static_cast<int>(Members(Self(), interfaceName).size()); }, In(interfaceName));
 }
 
 VEXListValVEXBaseUnknown_var* ContainerAdapter::ListMembers(const char* interfaceName) const
@@ -153,11 +170,11 @@ VEXListValVEXBaseUnknown_var* ContainerAdapter::ListMembers(const char* interfac
             if (Self().Tree() == nullptr) {
                 return nullptr;
             }
-            auto* const members = new VEXListValVEXBaseUnknown_var;
-            ForEachMember(Self(), interfaceName, [&](Feature& feature) {
-                members->Append(VEXShare<VEXBaseUnknown>(&feature));
-            });
-            return members;
+            auto* const list = new VEXListValVEXBaseUnknown_var;
+            for (Feature* const member : Members(Self(), interfaceName)) {
+                list->Append(VEXShare<VEXBaseUnknown>(member));
+            }
+            return list;
         },
         In(interfaceName));
 }

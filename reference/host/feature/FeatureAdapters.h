@@ -8,13 +8,13 @@
 #include "host/feature/Feature.h"
 
 #include <span>
+#include <string>
+#include <vector>
 
 namespace vex {
 
-/// Features below `root`, each before those below it, that have the interface of that name; all are
-/// handles to features.
-void AppendMembers(const Feature& root, const char* interfaceName,
-                   VEXListValVEXISpecObject_var& members);
+/// Removes the features whose component lacks the interface of that name; null: all.
+VEX_EXPORT void KeepImplementing(const char* interfaceName, std::vector<Feature*>& features);
 
 /// A feature as a handle; empty for null.
 VEX_EXPORT VEXISpecObject_var AsSpecObject(const Feature* feature);
@@ -52,6 +52,11 @@ public:
     using Adapter::Adapter;
     HRESULT GetAllChildren(const char* interfaceName,
                            VEXListValVEXISpecObject_var& descendants) const override;
+
+protected:
+    /// Appends what stands below the feature, each before what is below it. False with the reason
+    /// in `error`.
+    virtual bool AppendBelow(std::vector<Feature*>& below, std::string& error) const;
 };
 
 class VEX_EXPORT ContainerAdapter : public Adapter<VEXIContainer, Feature>

@@ -81,6 +81,10 @@ public:
     /// a default that does not fit.
     bool Add(std::vector<LateTypeDefinition> types, std::string& error);
 
+    /// False, with the reason in `error`, when no catalogue could be loaded: nothing can be made
+    /// then.
+    bool AreLoaded(std::string& error);
+
     /// All types, by name.
     std::vector<const LateType*> All();
 

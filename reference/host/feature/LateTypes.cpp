@@ -118,6 +118,18 @@ bool LateTypes::Add(std::vector<LateTypeDefinition> definitions, std::string& er
     return true;
 }
 
+bool LateTypes::AreLoaded(std::string& error)
+{
+    LoadCatalogues();
+    if (_types.empty()) {
+        error =
+            "no catalogue of late types is loaded. Mend what was reported when it was read, or "
+            "name "
+            "the folder of another one in VEX_CATALOG_PATH.";
+    }
+    return !_types.empty();
+}
+
 std::vector<const LateType*> LateTypes::All()
 {
     LoadCatalogues();

@@ -3,28 +3,11 @@
 #include "host/product/ProductAdapters.h"
 
 #include "host/feature/DocumentSession.h"
-#include "host/feature/FeatureAdapters.h"
 #include "host/feature/Refusal.h"
 #include "host/product/ProductStructure.h"
 #include "host/system/Probe.h"
 
 namespace vex {
-
-namespace {
-
-/// Removes the features that lack the interface of that name.
-void KeepWith(const char* interfaceName, std::vector<Feature*>& features)
-{
-    if (interfaceName == nullptr) {
-        features.clear();
-        return;
-    }
-    const IID iid = VEXGuidOfName(interfaceName);
-    std::erase_if(features,
-                  [&](const Feature* feature) { return feature->Type().Find(iid) == nullptr; });
-}
-
-}  // namespace
 
 VEXListValVEXBaseUnknown_var* ProductAdapter::GetChildren(const char* interfaceName) const
 {
@@ -39,7 +22,7 @@ VEXListValVEXBaseUnknown_var* ProductAdapter::GetChildren(const char* interfaceN
                 Refuse(E_FAIL, error);
                 return nullptr;
             }
-            KeepWith(interfaceName, below);
+            KeepImplementing(interfaceName, below);
             auto* const children = new VEXListValVEXBaseUnknown_var;
             for (Feature* const feature : below) {
                 children->Append(VEXShare<VEXBaseUnknown>(feature));
@@ -57,26 +40,9 @@ VEXUnicodeString ProductAdapter::GetPartNumber() const
     });
 }
 
-HRESULT ProductDescendantsAdapter::GetAllChildren(const char* interfaceName,
-                                                  VEXListValVEXISpecObject_var& descendants) const
+bool ProductDescendantsAdapter::AppendBelow(std::vector<Feature*>& below, std::string& error) const
 {
-    return Probe<"VEXIDescendants::GetAllChildren">(
-        [&] {
-            std::vector<Feature*> below;
-            std::string error;
-            if (Self().Tree() == nullptr) {
-                return E_FAIL;
-            }
-            if (!AllBelow(Self(), below, error)) {
-                return Refuse(E_FAIL, error);
-            }
-            KeepWith(interfaceName, below);
-            for (const Feature* const feature : below) {
-                descendants.Append(AsSpecObject(feature));
-            }
-            return S_OK;
-        },
-        In(interfaceName), Out(descendants));
+    return AllBelow(Self(), below, error);
 }
 
 VEXDocument* LinkableObjectAdapter::GetDocument() const

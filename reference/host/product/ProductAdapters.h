@@ -4,8 +4,7 @@
 #pragma once
 
 #include "VEXProductStructure.h"
-#include "host/component/Adapter.h"
-#include "host/feature/Feature.h"
+#include "host/feature/FeatureAdapters.h"
 
 #include <span>
 
@@ -19,13 +18,15 @@ public:
     VEXUnicodeString GetPartNumber() const override;
 };
 
-/// E_FAIL, with the reason on standard error, when a linked document cannot be opened.
-class VEX_EXPORT ProductDescendantsAdapter final : public Adapter<VEXIDescendants, Feature>
+/// Descendants across documents (AllBelow). E_FAIL, with the reason on standard error, when a
+/// linked document cannot be opened.
+class VEX_EXPORT ProductDescendantsAdapter final : public DescendantsAdapter
 {
 public:
-    using Adapter::Adapter;
-    HRESULT GetAllChildren(const char* interfaceName,
-                           VEXListValVEXISpecObject_var& descendants) const override;
+    using DescendantsAdapter::DescendantsAdapter;
+
+protected:
+    bool AppendBelow(std::vector<Feature*>& below, std::string& error) const override;
 };
 
 class VEX_EXPORT LinkableObjectAdapter final : public Adapter<VEXILinkableObject, Feature>

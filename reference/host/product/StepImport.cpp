@@ -171,6 +171,9 @@ bool ImportStep(const std::string& stepPath, const std::string& folder, std::str
                 std::string& rootDocumentPath, std::string& error, const ImportProgress& progress)
 {
     rootDocumentPath.clear();
+    if (!LateTypes::Instance().AreLoaded(error)) {
+        return false;
+    }
     std::error_code code;
     if (!std::filesystem::is_directory(folder, code)) {
         error = Quoted(folder) + ": there is no such folder. Make it first.";

@@ -51,10 +51,10 @@ bool DocumentReader::Open(std::string_view path, std::string& error, int newestD
     const system::DatabaseKind kind{"a document", kApplicationId, newestDataVersion};
     bool missing = false;
     if (!system::OpenDatabaseFile(path, kind, _file, _dataVersion, missing, error)) return false;
-    struct stat status
-    {};
-    if (::fstat(_file.Number(), &status) == 0)
+    struct stat status = {};
+    if (::fstat(_file.Number(), &status) == 0) {
         _fileSize = static_cast<std::uint64_t>(status.st_size);
+    }
     std::string reason;
     if (_database.OpenForReading(_file.Number(), reason) &&
         DocumentSchema().Matches(_database, reason) && ReadTables(reason)) {

@@ -148,7 +148,7 @@ struct FeatureBatchTable
 namespace {
 
 constexpr std::size_t kMostRows = 512;
-constexpr std::size_t kMostBytes = 256 * 1024;
+constexpr std::size_t kMostBytes = std::size_t{256} * 1024;
 
 }  // namespace
 

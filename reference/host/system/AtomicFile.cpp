@@ -58,8 +58,7 @@ bool AtomicFile::ResolveTarget(std::string_view path, std::string& error)
 {
     if (!CheckPath(path, error)) return false;
     _target = path;
-    struct stat status
-    {};
+    struct stat status = {};
     if (::lstat(_target.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return true;
     char* resolved = ::realpath(_target.c_str(), nullptr);
     if (resolved == nullptr) {
@@ -90,8 +89,7 @@ bool AtomicFile::Begin(std::string_view path, std::string& error)
 {
     Discard();
     if (!ResolveTarget(path, error)) return false;
-    struct stat old
-    {};
+    struct stat old = {};
     const bool exists = ::stat(_target.c_str(), &old) == 0;
     if (exists && !S_ISREG(old.st_mode)) {
         error = fmt::format(
@@ -111,8 +109,7 @@ bool AtomicFile::Begin(std::string_view path, std::string& error)
     const unsigned mode = exists ? old.st_mode & kPermissionBits : 0666U;
     if (!CreateBeside(mode & 0777U, error)) return false;
     if (!exists) return true;
-    struct stat made
-    {};
+    struct stat made = {};
     if (::fstat(_file.Number(), &made) != 0) return Fail("looking at the new file", errno, error);
     const bool ownerDiffers = made.st_uid != old.st_uid || made.st_gid != old.st_gid;
     // Only a privileged process can keep another's ownership; for others the file becomes theirs.

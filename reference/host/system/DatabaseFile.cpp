@@ -67,8 +67,7 @@ bool OpenRegularFile(const std::string& path, Descriptor& file, std::uint64_t& s
                         missing ? "Check the path" : "Check the path and the permissions");
         return false;
     }
-    struct stat status
-    {};
+    struct stat status = {};
     if (::fstat(file.Number(), &status) != 0) {
         error = Refusal(path, SystemReason(errno), "Check the disk");
         return false;

@@ -85,8 +85,7 @@ int Synchronize(sqlite3_file*, int)
 
 int FileSize(sqlite3_file* file, sqlite3_int64* size)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     if (::fstat(Self(file).descriptor, &status) != 0) return Fail(errno, SQLITE_IOERR_FSTAT);
     *size = status.st_size;
     return SQLITE_OK;

@@ -3,7 +3,8 @@
 #include "VEXSystem.h"
 #include "host/system/Probe.h"
 
-#include <cstring>
+#include <algorithm>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -36,7 +37,7 @@ std::string Join(std::string_view directory, std::string_view name)
 /// Puts the text and its ending zero into a buffer of VEXMaxPathSize bytes.
 void Fill(char* buffer, std::string_view text)
 {
-    std::memcpy(buffer, text.data(), text.size());
+    text.copy(buffer, text.size());
     buffer[text.size()] = '\0';
 }
 

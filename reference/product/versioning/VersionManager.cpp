@@ -22,8 +22,7 @@ std::string NameOf(const vex::Document& document)
 HRESULT Upgrade(vex::Document& document, bool tell)
 {
     const hlx::VersionSteps& steps = hlx::VersionSteps::Instance();
-    // A document that was never stored (version 0) was made by this release.
-    while (document.DataVersion() != 0 && document.DataVersion() < steps.Current()) {
+    while (document.DataVersion() < steps.Current()) {
         const unsigned from = document.DataVersion();
         const hlx::VersionStep* const step = steps.Find(from);
         if (step == nullptr) {
