@@ -30,6 +30,7 @@ protected:
 
 struct ErrorRow
 {
+    const char* row;
     const char* text;
     const char* out;
 };
@@ -48,10 +49,11 @@ TEST_P(LogErrorText, IsPrintedWithoutALineEndAndFails)
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, LogErrorText,
-                         testing::Values(ErrorRow{"No such step", "No such step"}, ErrorRow{"", ""},
-                                         ErrorRow{nullptr, ""},
-                                         ErrorRow{"100%s %n\n", "100%s %n\n"},
-                                         ErrorRow{"Größe \xFF", "Größe \xFF"}));
+                         testing::Values(ErrorRow{"Plain", "No such step", "No such step"},
+                                         ErrorRow{"Empty", "", ""}, ErrorRow{"Null", nullptr, ""},
+                                         ErrorRow{"Format", "100%s %n\n", "100%s %n\n"},
+                                         ErrorRow{"NotUtf8", "Größe \xFF", "Größe \xFF"}),
+                         [](const auto& row) { return row.param.row; });
 
 // --- Feature-tree dump --------------------------------------------------------------------------
 

@@ -1,104 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
-// The timing log: its name, its bytes, the clock readings, what happens without it.
-#include "support/ExposedTestCase.h"
-#include "support/FakeClock.h"
+// The timing log: its name, its head, what happens when there is none.
+#include "library/TimingFixture.h"
 #include "support/FlushedOutput.h"
 #include "support/ForeignNumbers.h"
-#include "support/Outcome.h"
-#include "support/TemporaryFolder.h"
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <stdlib.h>
 
 #include <filesystem>
-#include <limits>
-#include <optional>
 
 namespace hlxtest {
 
 namespace {
 
 using testing::ElementsAre;
-
-constexpr std::time_t kMoment = 1209967628;  // 5 May 2008, 06:07:08 UTC
-
-/// Sets an environment variable while it lives.
-class Environment
-{
-public:
-    Environment(const char* name, const char* value) : _name(name)
-    {
-        if (const char* const former = std::getenv(name); former != nullptr) {
-            _former = former;
-        }
-        setenv(name, value, 1);
-        tzset();
-    }
-    ~Environment()
-    {
-        if (_former) {
-            setenv(_name, _former->c_str(), 1);
-        } else {
-            unsetenv(_name);
-        }
-        tzset();
-    }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-
-private:
-    const char* _name;
-    std::optional<std::string> _former;
-};
-
-class TimingTest : public testing::Test
-{
-protected:
-    TimingTest()
-    {
-        clock.time = [] { return kMoment; };
-        clock.clock = [this] { return ticks; };
-        testCase._OutputDirectory = folder.Path().c_str();
-    }
-
-    void Create(const char* name)
-    {
-        std::string text = name;
-        Capture([&] { testCase.CreateTimeLoggingFile(text.data()); });
-    }
-
-    /// A whole log with one section that took so long. Answers what follows the log's head.
-    std::string Section(std::clock_t started, const char* label, std::clock_t stopped)
-    {
-        Create("Run");
-        ticks = started;
-        testCase.StartTimer(label);
-        ticks = stopped;
-        testCase.StopTimer();
-        const std::string log = ReadFile(path);
-        EXPECT_TRUE(log.starts_with(kHead)) << log;
-        return log.substr(std::min(kHead.size(), log.size()));
-    }
-
-    inline static const std::string kHead =
-        "********************\n"
-        "* Timelogging File *\n"
-        "********************\n"
-        "\n"
-        "System A\n"
-        "Date :\t\t\t\t\t5 5 2008\n"
-        "Start Time :\t\t\t6 7 8\n"
-        "\n";
-
-    const Environment zone{"TZ", "UTC0"};
-    const Environment system{"VEX_SYSTEM_NAME", "System A"};
-    const TemporaryFolder folder;
-    const std::string path = folder.File("Run_System A_5_5_2008.txt");
-    FakeClock clock;
-    std::clock_t ticks = 0;
-    ExposedTestCase testCase;
-};
 
 // --- The log's name and head --------------------------------------------------------------------
 
@@ -135,8 +49,7 @@ TEST_F(TimingTest, PrintsThePathAndFlushesIt)
 
 TEST_F(TimingTest, AsksThePlatformForTheSystemAndThenJoinsThePath)
 {
-    std::string name = "Run";
-    EXPECT_THAT(CallsOf([&] { testCase.CreateTimeLoggingFile(name.data()); }),
+    EXPECT_THAT(CallsOf([&] { Create("Run"); }),
                 ElementsAre("VEXGetSystemInfo()", "VEXMakePath(\"" + folder.Path() +
                                                       "\", \"Run_System A_5_5_2008.txt\", &)"));
     EXPECT_THAT(CallsOf([&] {
@@ -148,6 +61,7 @@ TEST_F(TimingTest, AsksThePlatformForTheSystemAndThenJoinsThePath)
 
 struct NameRow
 {
+    const char* row;
     const char* name;
     const char* system;
     const char* fileName;
@@ -176,15 +90,17 @@ TEST_P(LogName, IsNameSystemAndDateWithThreeSlashesReplaced)
 
 INSTANTIATE_TEST_SUITE_P(
     Names, LogName,
-    testing::Values(NameRow{"Run", "", "Run__5_5_2008.txt"}, NameRow{"", "s", "_s_5_5_2008.txt"},
-                    NameRow{"Run", "a/b", "Run_a_b_5_5_2008.txt"},
-                    NameRow{"Run", "a/b/c", "Run_a_b_c_5_5_2008.txt"},
-                    NameRow{"Run", "a/b/c/d", "Run_a_b_c_d_5_5_2008.txt"},
-                    NameRow{"Run", "a/b/c/d/e", "Run_a_b_c_d/e_5_5_2008.txt"},
-                    NameRow{"Run", "a/b/c/d/e/f", "Run_a_b_c_d/e/f_5_5_2008.txt"},
-                    NameRow{"x/y/z", "a/b/c", "x_y_z_a_b/c_5_5_2008.txt"},
-                    NameRow{"50%s\\n", "s", "50%s\\n_s_5_5_2008.txt"},
-                    NameRow{"Größe", "Ü", "Größe_Ü_5_5_2008.txt"}));
+    testing::Values(NameRow{"NoSystem", "Run", "", "Run__5_5_2008.txt"},
+                    NameRow{"NoName", "", "s", "_s_5_5_2008.txt"},
+                    NameRow{"OneSlash", "Run", "a/b", "Run_a_b_5_5_2008.txt"},
+                    NameRow{"TwoSlashes", "Run", "a/b/c", "Run_a_b_c_5_5_2008.txt"},
+                    NameRow{"ThreeSlashes", "Run", "a/b/c/d", "Run_a_b_c_d_5_5_2008.txt"},
+                    NameRow{"FourSlashes", "Run", "a/b/c/d/e", "Run_a_b_c_d/e_5_5_2008.txt"},
+                    NameRow{"FiveSlashes", "Run", "a/b/c/d/e/f", "Run_a_b_c_d/e/f_5_5_2008.txt"},
+                    NameRow{"SlashesInTheName", "x/y/z", "a/b/c", "x_y_z_a_b/c_5_5_2008.txt"},
+                    NameRow{"FormatInTheName", "50%s\\n", "s", "50%s\\n_s_5_5_2008.txt"},
+                    NameRow{"Umlauts", "Größe", "Ü", "Größe_Ü_5_5_2008.txt"}),
+    [](const auto& row) { return row.param.row; });
 
 TEST_F(TimingTest, ANullNameIsAnEmptyOne)
 {
@@ -196,6 +112,7 @@ TEST_F(TimingTest, ANullNameIsAnEmptyOne)
 
 struct DateRow
 {
+    const char* row;
     const char* zone;
     std::time_t moment;
     const char* inName;
@@ -221,19 +138,20 @@ TEST_P(LogDate, IsTheLocalMomentOfCreationInPlainDigits)
 
 INSTANTIATE_TEST_SUITE_P(
     Dates, LogDate,
-    testing::Values(DateRow{"UTC0", 0, "1_1_1970.txt",
+    testing::Values(DateRow{"Beginning", "UTC0", 0, "1_1_1970.txt",
                             "Date :\t\t\t\t\t1 1 1970\nStart Time :\t\t\t0 0 0"},
-                    DateRow{"UTC0", 946684799, "31_12_1999.txt",
+                    DateRow{"EndOfAYear", "UTC0", 946684799, "31_12_1999.txt",
                             "Date :\t\t\t\t\t31 12 1999\nStart Time :\t\t\t23 59 59"},
-                    DateRow{"XXX-5:30", kMoment, "5_5_2008.txt",
+                    DateRow{"EastOfGreenwich", "XXX-5:30", kMoment, "5_5_2008.txt",
                             "Date :\t\t\t\t\t5 5 2008\nStart Time :\t\t\t11 37 8"},
-                    DateRow{"XXX7", kMoment, "4_5_2008.txt",
+                    DateRow{"WestOfGreenwich", "XXX7", kMoment, "4_5_2008.txt",
                             "Date :\t\t\t\t\t4 5 2008\nStart Time :\t\t\t23 7 8"},
                     // Past the 32-bit seconds of 2038 and 2106.
-                    DateRow{"UTC0", 4102444800, "1_1_2100.txt",
+                    DateRow{"After2038", "UTC0", 4102444800, "1_1_2100.txt",
                             "Date :\t\t\t\t\t1 1 2100\nStart Time :\t\t\t0 0 0"},
-                    DateRow{"UTC0", 10413792000, "1_1_2300.txt",
-                            "Date :\t\t\t\t\t1 1 2300\nStart Time :\t\t\t0 0 0"}));
+                    DateRow{"After2106", "UTC0", 10413792000, "1_1_2300.txt",
+                            "Date :\t\t\t\t\t1 1 2300\nStart Time :\t\t\t0 0 0"}),
+    [](const auto& row) { return row.param.row; });
 
 TEST_F(TimingTest, AnExistingLogIsReplacedAndTheNewOneCanBeReadBack)
 {
@@ -247,120 +165,6 @@ TEST_F(TimingTest, AnExistingLogIsReplacedAndTheNewOneCanBeReadBack)
     testCase.StartTimer("");
     testCase.StopTimer();
     EXPECT_EQ(ReadFile(path), kHead + "0.000\tseconds\n");
-}
-
-// --- The timed section --------------------------------------------------------------------------
-
-TEST_F(TimingTest, ALabelWithoutALineEndRunsIntoTheFigure)
-{
-    EXPECT_EQ(Section(0, "Propagate: ", 1'500'000), "Propagate: 1.500\tseconds\n");
-    EXPECT_EQ(Section(0, "Propagate\n", 250'000), "Propagate\n0.250\tseconds\n");
-}
-
-struct LabelRow
-{
-    const char* label;
-    const char* written;
-};
-
-class Label : public TimingTest, public testing::WithParamInterface<LabelRow>
-{};
-
-TEST_P(Label, IsAPrintfFormatToWhichNothingIsAdded)
-{
-    EXPECT_EQ(Section(0, GetParam().label, 0),
-              GetParam().written + std::string("0.000\tseconds\n"));
-}
-
-INSTANTIATE_TEST_SUITE_P(Labels, Label,
-                         testing::Values(LabelRow{"", ""}, LabelRow{nullptr, ""},
-                                         LabelRow{"a\tb\n\n", "a\tb\n\n"},
-                                         LabelRow{"100%%", "100%"}, LabelRow{"Größe", "Größe"}));
-
-static_assert(CLOCKS_PER_SEC == 1'000'000);
-
-struct ElapsedRow
-{
-    std::clock_t start;
-    std::clock_t stop;
-    const char* text;
-};
-
-class Elapsed : public TimingTest, public testing::WithParamInterface<ElapsedRow>
-{};
-
-TEST_P(Elapsed, IsWrittenInSecondsWithThreeDecimals)
-{
-    EXPECT_EQ(Section(GetParam().start, "", GetParam().stop),
-              GetParam().text + std::string("\tseconds\n"));
-}
-
-INSTANTIATE_TEST_SUITE_P(Times, Elapsed,
-                         testing::Values(ElapsedRow{0, 0, "0.000"}, ElapsedRow{0, 250'000, "0.250"},
-                                         ElapsedRow{1'000'000, 2'500'000, "1.500"},
-                                         ElapsedRow{7, 1'234'574, "1.235"},
-                                         ElapsedRow{0, 499, "0.000"}, ElapsedRow{0, 501, "0.001"},
-                                         ElapsedRow{0, 999'400, "0.999"},
-                                         ElapsedRow{0, 999'600, "1.000"},
-                                         ElapsedRow{0, 12'345'678, "12.346"},
-                                         // A clock that was set back.
-                                         ElapsedRow{2'000'000, 500'000, "-1.500"},
-                                         // Past 2^31 and 2^32 ticks: 36 and 72 minutes.
-                                         ElapsedRow{0, 2'147'483'648, "2147.484"},
-                                         ElapsedRow{0, 4'294'967'296, "4294.967"},
-                                         ElapsedRow{1'000'000, 1'234'568'891'000, "1234567.891"}));
-
-TEST_F(TimingTest, TheClockIsReadAfterTheLabelAndBeforeTheFigure)
-{
-    Create("Run");
-    std::vector<long> written;
-    clock.clock = [&] {
-        written.push_back(std::ftell(testCase._TimeLogFile));
-        return std::clock_t{0};
-    };
-    testCase.StartTimer("label");
-    testCase.StartTimer("");
-    testCase.StopTimer();
-    const long afterLabel = static_cast<long>(kHead.size()) + 5;
-    EXPECT_THAT(written, ElementsAre(afterLabel, afterLabel));
-}
-
-TEST_F(TimingTest, StopTimerClosesTheLogAndKeepsThePointer)
-{
-    Create("Run");
-    const auto former = reinterpret_cast<std::uintptr_t>(testCase._TimeLogFile);
-    const int descriptor = fileno(testCase._TimeLogFile);
-    EXPECT_NE(fcntl(descriptor, F_GETFD), -1);
-    testCase.StartTimer("");
-    testCase.StopTimer();
-    EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);
-    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(testCase._TimeLogFile), former);
-}
-
-TEST_F(TimingTest, ANewLogMayFollowAClosedOne)
-{
-    EXPECT_EQ(Section(0, "one ", 1'000'000), "one 1.000\tseconds\n");
-    EXPECT_EQ(Section(5'000'000, "two ", 7'000'000), "two 2.000\tseconds\n");
-}
-
-TEST_F(TimingTest, TheReadingsAreOneForTheWholeLibrary)
-{
-    ExposedTestCase other;
-    const TemporaryFolder otherFolder;
-    other._OutputDirectory = otherFolder.Path().c_str();
-    Create("Run");
-    std::string name = "Run";
-    Capture([&] { other.CreateTimeLoggingFile(name.data()); });
-    ticks = 1'000'000;
-    testCase.StartTimer("");
-    ticks = 3'000'000;
-    other.StartTimer("");
-    ticks = 4'000'000;
-    testCase.StopTimer();
-    ticks = 4'500'000;
-    other.StopTimer();
-    EXPECT_EQ(ReadFile(path), kHead + "1.000\tseconds\n");
-    EXPECT_EQ(ReadFile(otherFolder.File("Run_System A_5_5_2008.txt")), kHead + "1.500\tseconds\n");
 }
 
 // --- Without a log, and in a foreign locale -----------------------------------------------------

@@ -5,7 +5,7 @@
 
 #include "VEXTypes.h"
 
-#include <time.h>
+#include <ctime>
 
 namespace hlxtest {
 

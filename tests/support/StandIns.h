@@ -42,7 +42,6 @@ class BodyStandIn : public Mortal<VEXBody>
 {
 public:
     using Mortal::Mortal;
-    int GetCellCount(short) const override { return 0; }
 };
 
 class DocumentContainersStandIn : public Mortal<VEXIContainerOfDocument>

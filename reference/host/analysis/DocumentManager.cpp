@@ -34,12 +34,11 @@ HRESULT DocumentManagerAdapter::GetLinkedDocuments(VEXListPtrVEXDocument& docume
                 if (path.empty()) {
                     continue;
                 }
-                Document* document = nullptr;
                 std::string error;
-                const bool readOnly = Self().Tree()->Owner().IsReadOnly();
-                if (FAILED(DocumentSession::Instance().Open(path, readOnly, document, error))) {
+                const Document* const document =
+                    DocumentSession::Instance().OpenLinked(path, error);
+                if (document == nullptr) {
                     std::fprintf(stderr, "vex: linked document: %s\n", error.c_str());
-                    document = nullptr;
                 }
                 documents.Append(document == nullptr ? nullptr : document->AsVEXDocument());
             }

@@ -2,8 +2,8 @@
 // The merged component table.
 #include "host/component/ComponentTypes.h"
 
+#include "host/system/MessageTexts.h"
 #include "host/system/ResultNames.h"
-#include "host/system/Text.h"
 
 #include <fmt/format.h>
 

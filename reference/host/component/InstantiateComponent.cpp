@@ -3,9 +3,9 @@
 // reference on each to the end.
 #include "VEXComponents.h"
 #include "host/component/ComponentTypes.h"
+#include "host/system/MessageTexts.h"
 #include "host/system/Probe.h"
 #include "host/system/Probes.h"
-#include "host/system/Text.h"
 
 #include <cstdio>
 #include <map>

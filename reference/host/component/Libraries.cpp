@@ -2,7 +2,7 @@
 // Component libraries: finding, opening, keeping. None is ever unloaded.
 #include "host/component/ComponentTypes.h"
 #include "host/component/HostLibrary.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <dlfcn.h>
 #include <fmt/format.h>

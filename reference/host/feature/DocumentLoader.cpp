@@ -6,7 +6,7 @@
 #include "host/store/AttributeUnpacker.h"
 #include "host/store/DocumentReader.h"
 #include "host/store/LinkPath.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 

@@ -2,8 +2,8 @@
 // Absolute and canonical forms of paths of documents.
 #include "host/feature/DocumentPath.h"
 
+#include "host/system/MessageTexts.h"
 #include "host/system/Path.h"
-#include "host/system/Text.h"
 
 #include <filesystem>
 #include <system_error>

@@ -5,7 +5,7 @@
 #include "host/store/AttributePacker.h"
 #include "host/store/DocumentWriter.h"
 #include "host/store/LinkPath.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 

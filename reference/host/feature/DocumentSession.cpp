@@ -5,7 +5,7 @@
 #include "host/feature/DocumentLinks.h"
 #include "host/feature/DocumentPath.h"
 #include "host/feature/DocumentStorage.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <algorithm>
 #include <array>

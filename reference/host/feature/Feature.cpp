@@ -4,7 +4,7 @@
 
 #include "VEXMetaClass.h"
 #include "host/feature/FeatureTree.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 #include "host/system/Texts.h"
 
 #include <algorithm>
@@ -23,8 +23,8 @@ VEXMetaClass* MetaObjectOf(const LateType& lateType)
     if (row.name == lateType.name) {
         return Component::MetaObjectOf(row);
     }
-    const VEXMetaClass* const base = lateType.base == nullptr ? Component::MetaObjectOf(row)
-                                                              : MetaObjectOf(*lateType.base);
+    const VEXMetaClass* const base =
+        lateType.base == nullptr ? Component::MetaObjectOf(row) : MetaObjectOf(*lateType.base);
     return VEXMetaClass::Get(lateType.name.c_str(), VEXImplementationClass, base,
                              lateType.name.c_str(), row.library.c_str());
 }

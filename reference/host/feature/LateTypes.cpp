@@ -3,7 +3,7 @@
 #include "host/component/ComponentNames.h"
 #include "host/component/ComponentTypes.h"
 #include "host/feature/LateType.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -4,7 +4,7 @@
 #include "host/product/KernelModule.h"
 
 #include "host/product/GeometryKernel.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <dlfcn.h>
 

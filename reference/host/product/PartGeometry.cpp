@@ -5,7 +5,7 @@
 #include "host/component/ComponentTypes.h"
 #include "host/product/GeometryKernelLoader.h"
 #include "host/product/ProductStructure.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 namespace vex {
 

@@ -10,7 +10,7 @@
 #include "host/product/DocumentNames.h"
 #include "host/product/GeometryKernelLoader.h"
 #include "host/product/ProductStructure.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 #include "host/system/Texts.h"
 
 #include <filesystem>

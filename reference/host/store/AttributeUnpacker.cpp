@@ -2,7 +2,7 @@
 // Unpacks attributes, each count checked against the bytes that are there.
 #include "host/store/AttributeUnpacker.h"
 
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 namespace vex::store {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "host/store/AttributeUnpacker.h"
 #include "host/system/LittleEndian.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 

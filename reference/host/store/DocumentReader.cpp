@@ -3,7 +3,7 @@
 #include "host/store/DocumentReader.h"
 
 #include "host/system/DatabaseFile.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 

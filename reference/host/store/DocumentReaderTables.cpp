@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Reads the tables of a document but its features: they are small and kept by the reader.
 #include "host/store/DocumentReader.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 

@@ -2,7 +2,7 @@
 // Writes document files.
 #include "host/store/DocumentWriter.h"
 
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 

@@ -3,8 +3,8 @@
 #include "host/system/AtomicFile.h"
 
 #include "host/system/FileOperations.h"
+#include "host/system/MessageTexts.h"
 #include "host/system/Path.h"
-#include "host/system/Text.h"
 
 #include <fmt/format.h>
 

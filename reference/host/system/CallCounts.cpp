@@ -2,7 +2,7 @@
 // Writes counts.
 #include "host/system/CallCounts.h"
 
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 #include <unistd.h>

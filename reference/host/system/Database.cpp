@@ -3,7 +3,7 @@
 #include "host/system/Database.h"
 
 #include "host/system/DescriptorVfs.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 

@@ -2,8 +2,8 @@
 // Reads the 100 bytes that begin an SQLite database. Its numbers are big-endian.
 #include "host/system/DatabaseFile.h"
 
+#include "host/system/MessageTexts.h"
 #include "host/system/Path.h"
-#include "host/system/Text.h"
 
 #include <fmt/format.h>
 

@@ -2,7 +2,7 @@
 // Advisory locks on folders.
 #include "host/system/FolderLock.h"
 
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 

@@ -2,7 +2,7 @@
 // Checks paths of stored files.
 #include "host/system/Path.h"
 
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
 

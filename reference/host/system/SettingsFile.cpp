@@ -6,8 +6,8 @@
 #include "host/system/Database.h"
 #include "host/system/DatabaseFile.h"
 #include "host/system/Digest.h"
+#include "host/system/MessageTexts.h"
 #include "host/system/Schema.h"
-#include "host/system/Text.h"
 
 #include <fmt/format.h>
 

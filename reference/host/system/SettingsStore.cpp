@@ -3,9 +3,9 @@
 #include "host/system/SettingsStore.h"
 
 #include "host/system/FolderLock.h"
+#include "host/system/MessageTexts.h"
 #include "host/system/Path.h"
 #include "host/system/SettingsFile.h"
-#include "host/system/Text.h"
 
 #include <fmt/format.h>
 

@@ -2,7 +2,7 @@
 // Writes traces.
 #include "host/system/TraceFile.h"
 
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <fcntl.h>
 #include <fmt/format.h>

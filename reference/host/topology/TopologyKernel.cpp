@@ -2,7 +2,7 @@
 // The component library's kernel object and its entry points.
 #include "host/product/GeometryKernel.h"
 #include "host/product/KernelModule.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 #include "host/topology/BRepShapeModel.h"
 #include "host/topology/ShapeBytes.h"
 #include "host/topology/step/StepReader.h"

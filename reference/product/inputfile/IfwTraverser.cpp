@@ -6,8 +6,8 @@
 #include "host/component/ComponentTypes.h"
 #include "host/system/AtomicFile.h"
 #include "host/system/FileOperations.h"
+#include "host/system/MessageTexts.h"
 #include "host/system/Path.h"
-#include "host/system/Text.h"
 #include "product/inputfile/InputFile.h"
 
 #include <fmt/format.h>

@@ -4,7 +4,7 @@
 
 #include "HLXProductUtilities.h"
 #include "host/feature/DocumentSession.h"
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 #include "product/inputfile/UniqueNames.h"
 
 #include <algorithm>

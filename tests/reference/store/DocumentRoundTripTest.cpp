@@ -53,7 +53,9 @@ TEST_F(DocumentRoundTrip, LongTextsAndLargestIds)
     Content content;
     content.attributeNames = {std::string(100'000, 'n')};
     AttributePacker packer;
-    packer.AddText(0, std::string(1 << 20, 'x') + "é");
+    std::string longText(1 << 20, 'x');
+    longText += "é";
+    packer.AddText(0, longText);
     content.features = {{INT64_MAX, 0, INT32_MAX, std::string(70'000, 't'),
                          std::string(1 << 20, 'a'), ToVector(packer.Packed())},
                         {1, INT64_MAX, 0, "T", std::nullopt, ToVector(packer.Packed())}};

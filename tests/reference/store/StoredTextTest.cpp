@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Which texts can be stored, and how any text is shown.
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // What comes in from a STEP file: structure, names, placements, units.
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 #include "reference/topology/KernelFixture.h"
 
 #include "support/TemporaryFolder.h"

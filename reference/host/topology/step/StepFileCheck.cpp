@@ -2,7 +2,7 @@
 // Looks at a STEP file before the kernel does. The kernel takes a truncated file for a smaller one.
 #include "host/topology/step/StepFileCheck.h"
 
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include <algorithm>
 #include <cerrno>

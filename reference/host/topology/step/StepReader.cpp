@@ -2,7 +2,7 @@
 // Reads a STEP file: looks at it, has it translated in a child process, takes over the result.
 #include "host/topology/step/StepReader.h"
 
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 #include "host/topology/step/AssemblyStream.h"
 #include "host/topology/step/ChildProcess.h"
 #include "host/topology/step/StepFileCheck.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Checks stored texts and makes outside bytes fit for a message.
-#include "host/system/Text.h"
+#include "host/system/MessageTexts.h"
 
 #include "host/system/Texts.h"
 
