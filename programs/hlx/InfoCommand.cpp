@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-// `hlx info DOC`: what a document is and holds, in a few lines.
+// `hlx info DOC`: what a document is and holds, in a few lines. What cannot be had is told on
+// standard error, the rest is shown.
 #include "Commands.h"
-#include "HLXProductUtilities.h"
+#include "DocumentContents.h"
 #include "OpenedDocument.h"
-#include "host/feature/Document.h"
+#include "ProductListing.h"
 #include "host/product/PartGeometry.h"
 #include "host/system/Texts.h"
 
@@ -20,63 +21,101 @@ std::string Quoted(std::string_view text)
     return quoted;
 }
 
-std::string NameOf(const VEXBaseUnknown_var& object)
+/// The quoted alias; `complete` becomes false when it cannot be had.
+std::string NameOf(const VEXBaseUnknown_var& object, bool& complete)
 {
     const VEXIAlias_var alias = object;
+    if (!alias) {
+        complete = Report("the name of an object cannot be read");
+    }
     return Quoted(alias ? alias->GetAlias().View() : std::string_view());
 }
 
-void PrintLinks(const VEXISamAnalysisManager_var& manager)
+bool PrintLinks(const VEXISamAnalysisManager& manager)
 {
-    VEXISamDocumentManager_var documentManager;
-    VEXListPtrVEXDocument documents;
-    if (FAILED(manager->GetDocumentManager(documentManager)) ||
-        FAILED(documentManager->GetLinkedDocuments(documents))) {
-        fmt::print("linked to: cannot be read\n");
-        return;
+    const VEXISamDocumentManager_var documentManager = DocumentManagerOf(manager);
+    if (!documentManager) {
+        return false;
     }
+    VEXListPtrVEXDocument documents;
+    bool complete = SUCCEEDED(documentManager->GetLinkedDocuments(documents)) ||
+                    Report("the linked documents cannot be read");
     for (int i = 1; i <= documents.Size(); ++i) {
         const VEXDocument* const linked = documents[i];
-        fmt::print("linked to: {}\n", linked == nullptr ? "a document that cannot be opened"
-                                                        : Quoted(linked->StorageName().View()));
+        complete = complete && linked != nullptr;
+        Write(fmt::format("linked to: {}\n", linked == nullptr
+                                                 ? "a document that cannot be opened"
+                                                 : Quoted(linked->StorageName().View())));
     }
+    return complete;
 }
 
-void PrintAnalysis(const VEXISamAnalysisManager_var& manager)
+bool PrintStep(const VEXBaseUnknown_var& step)
 {
-    PrintLinks(manager);
+    bool complete = true;
+    const std::string name = NameOf(step, complete);
+    const VEXISpecObject_var feature = step;
+    const std::string type(feature ? feature->GetType().View() : std::string_view());
+    Write(fmt::format("    step {} ({})\n", name, vex::system::Printable(type)));
+    return (feature || Report("the type of a step cannot be read")) && complete;
+}
+
+bool PrintCase(const VEXBaseUnknown_var& object)
+{
+    bool complete = true;
+    const std::string name = NameOf(object, complete);
+    Write(fmt::format("  case {}\n", name));
+    VEXListValVEXBaseUnknown_var steps;
+    const VEXISamAnalysisCase_var analysisCase = object;
+    if (!analysisCase || FAILED(analysisCase->GetAnalysisSets(steps))) {
+        complete = Report("the steps of case " + name + " cannot be read");
+    }
+    for (int i = 1; i <= steps.Size(); ++i) {
+        complete = PrintStep(steps[i]) && complete;
+    }
+    return complete;
+}
+
+bool PrintModel(const VEXBaseUnknown_var& object)
+{
+    bool complete = true;
+    const std::string name = NameOf(object, complete);
+    Write(fmt::format("model {}\n", name));
+    VEXListValVEXBaseUnknown_var cases;
+    const VEXISamAnalysisModel_var model = object;
+    if (!model || FAILED(model->GetAnalysisCases(cases))) {
+        complete = Report("the cases of model " + name + " cannot be read");
+    }
+    for (int i = 1; i <= cases.Size(); ++i) {
+        complete = PrintCase(cases[i]) && complete;
+    }
+    return complete;
+}
+
+bool PrintAnalysis(const OpenedDocument& opened)
+{
+    const VEXISamAnalysisManager_var manager = AnalysisManagerOf(*opened.Get());
+    if (!manager) {
+        return false;
+    }
+    bool complete = PrintLinks(*manager.Get());
     VEXListValVEXBaseUnknown_var models;
-    manager->GetAllAnalysisModels(models);
-    for (int m = 1; m <= models.Size(); ++m) {
-        fmt::print("model {}\n", NameOf(models[m]));
-        VEXListValVEXBaseUnknown_var cases;
-        if (const VEXISamAnalysisModel_var model = models[m]) {
-            model->GetAnalysisCases(cases);
-        }
-        for (int c = 1; c <= cases.Size(); ++c) {
-            fmt::print("  case {}\n", NameOf(cases[c]));
-            VEXListValVEXBaseUnknown_var sets;
-            if (const VEXISamAnalysisCase_var analysisCase = cases[c]) {
-                analysisCase->GetAnalysisSets(sets);
-            }
-            for (int s = 1; s <= sets.Size(); ++s) {
-                const VEXISpecObject_var set = sets[s];
-                fmt::print("    step {} ({})\n", NameOf(sets[s]), set ? set->GetType().View() : "");
-            }
-        }
+    complete = AppendModels(*manager.Get(), models) && complete;
+    for (int i = 1; i <= models.Size(); ++i) {
+        complete = PrintModel(models[i]) && complete;
     }
+    return complete;
 }
 
-void PrintProduct(const VEXIProduct_var& product, int depth)
+bool PrintProducts(const OpenedDocument& opened)
 {
-    const VEXListValVEXBaseUnknown_var* const children = product->GetChildren("VEXIProduct");
-    for (int i = 1; children != nullptr && i <= children->Size(); ++i) {
-        const VEXIProduct_var child = (*children)[i];
-        fmt::print("{:{}}product {} of {}\n", "", depth * 2, NameOf((*children)[i]),
-                   Quoted(child->GetPartNumber().View()));
-        PrintProduct(child, depth + 1);
+    VEXListValVEXBaseUnknown_var roots;
+    bool complete = AppendRoots(*opened.Get(), roots);
+    ProductListing listing(*opened.Inside());
+    for (int i = 1; i <= roots.Size(); ++i) {
+        complete = listing.Print(roots[i]) && complete;
     }
-    delete children;
+    return complete;
 }
 
 bool PrintPart(vex::Document& document)
@@ -85,44 +124,36 @@ bool PrintPart(vex::Document& document)
     vex::PartGeometry geometry(document);
     const vex::ShapeModel* const shape = geometry.Shape(error);
     if (shape == nullptr) {
-        fmt::print(stderr, "hlx: {}\n", error);
-        return false;
+        return Report(error);
     }
-    fmt::print("bodies: {}\nfaces: {}\nedges: {}\nvertices: {}\n", shape->BodyCount(),
-               shape->CellCount(2), shape->CellCount(1), shape->CellCount(0));
+    Write(fmt::format("bodies: {}\nfaces: {}\nedges: {}\nvertices: {}\n", shape->BodyCount(),
+                      shape->CellCount(2), shape->CellCount(1), shape->CellCount(0)));
     return true;
+}
+
+bool PrintContents(const OpenedDocument& opened)
+{
+    switch (opened.Inside()->DocType()) {
+        case vex::DocumentType::Analysis:
+            return PrintAnalysis(opened);
+        case vex::DocumentType::Product:
+            return PrintProducts(opened);
+        case vex::DocumentType::Part:
+            return PrintPart(*opened.Inside());
+    }
+    return Report("a document of this type cannot be shown");
 }
 
 int PrintInfo(const std::string& path)
 {
     const OpenedDocument opened(path);
-    vex::Document* const document = vex::Document::From(opened.Get());
+    const vex::Document* const document = opened.Inside();
     if (document == nullptr) {
         return Failed;
     }
-    fmt::print("type: {}\ndata version: {}\nfeatures: {}\n", opened.Get()->GetType().View(),
-               document->DataVersion(), document->Tree().Size());
-    VEXISamAnalysisManager_var manager;
-    if (document->DocType() == vex::DocumentType::Part) {
-        return PrintPart(*document) ? Done : Failed;
-    }
-    if (document->DocType() == vex::DocumentType::Analysis) {
-        if (FAILED(HLXAnalysisDocUtils::GetAnalysisManager(manager, opened.Get()))) {
-            return Failed;
-        }
-        PrintAnalysis(manager);
-        return Done;
-    }
-    const VEXIDocRoots_var docRoots = VEXShare(opened.Get());
-    const VEXListValVEXBaseUnknown_var* const roots = docRoots ? docRoots->GetRoots() : nullptr;
-    for (int i = 1; roots != nullptr && i <= roots->Size(); ++i) {
-        if (const VEXIProduct_var product = (*roots)[i]) {
-            fmt::print("product {}\n", Quoted(product->GetPartNumber().View()));
-            PrintProduct(product, 1);
-        }
-    }
-    delete roots;
-    return Done;
+    Write(fmt::format("type: {}\ndata version: {}\nfeatures: {}\n", opened.Get()->GetType().View(),
+                      document->DataVersion(), document->Tree().Size()));
+    return PrintContents(opened) ? Done : Failed;
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // `hlx probes`: the names that traces show and faults take.
 #include "Commands.h"
+#include "Messages.h"
 #include "host/component/ComponentTypes.h"
 #include "host/system/Probes.h"
 
@@ -14,8 +15,8 @@ void PrintCasts()
 {
     for (const vex::ComponentType* type : vex::ComponentTypes::Instance().All()) {
         for (const vex::InterfaceEntry& entry : type->interfaces) {
-            fmt::print("cast:{}->{}  {}\n", type->name, entry.name,
-                       fmt::join(vex::probe::WaysToBreak("cast:*"), " "));
+            Write(fmt::format("cast:{}->{}  {}\n", type->name, entry.name,
+                              fmt::join(vex::probe::WaysToBreak("cast:*"), " ")));
         }
     }
 }
@@ -31,7 +32,7 @@ void AddProbesCommand(CLI::App& program, int& exitCode)
     command->add_flag("--casts", casts, "List the casts (cast:COMPONENT->INTERFACE) too");
     command->callback([&exitCode] {
         for (const std::string& name : vex::probe::AllNames()) {
-            fmt::print("{}  {}\n", name, fmt::join(vex::probe::WaysToBreak(name), " "));
+            Write(fmt::format("{}  {}\n", name, fmt::join(vex::probe::WaysToBreak(name), " ")));
         }
         if (casts) {
             PrintCasts();

@@ -18,6 +18,7 @@ struct StepCode
 
 inline constexpr StepCode stepCodes[] = {
     {"GSS", "General_Static_Step_", "HLXGeneralStaticStepLT", "general static"},
+    // "Staic_": the spelling is kept by contract; baselines hold it.
     {"SPS", "Staic_Perturbation_Step_", "HLXStaticLPStepLT", "static linear perturbation"},
     {"RS", "Riks_Step_", "HLXRiksStepLT", "Riks"},
     {"HTS", "Heat_Transfer_Step_", "HLXHeatTransferStepLT", "heat transfer"},

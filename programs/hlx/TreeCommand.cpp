@@ -1,49 +1,43 @@
 // SPDX-License-Identifier: Apache-2.0
 // `hlx tree DOC`: the feature tree of a document, as the tree dump of the test cases shows it.
 #include "Commands.h"
+#include "DocumentContents.h"
 #include "HLXProductUtilities.h"
 #include "OpenedDocument.h"
-
-#include <cstdio>
 
 namespace hlx {
 
 namespace {
 
 /// What a document's tree is shown from: the models of an analysis document, the roots of another
-/// one.
-VEXListValVEXBaseUnknown_var TreeRoots(VEXDocument* document)
+/// one. False when they could not all be had.
+bool AppendTreeRoots(const OpenedDocument& opened, VEXListValVEXBaseUnknown_var& roots)
 {
-    VEXListValVEXBaseUnknown_var roots;
-    VEXISamAnalysisManager_var manager;
-    if (SUCCEEDED(HLXAnalysisDocUtils::GetAnalysisManager(manager, document)) && manager) {
-        manager->GetAllAnalysisModels(roots);
-    } else if (const VEXIDocRoots_var docRoots = VEXShare(document)) {
-        if (VEXListValVEXBaseUnknown_var* const list = docRoots->GetRoots(); list != nullptr) {
-            roots.Append(*list);
-            delete list;
-        }
+    if (opened.Inside()->DocType() != vex::DocumentType::Analysis) {
+        return AppendRoots(*opened.Get(), roots);
     }
-    return roots;
+    const VEXISamAnalysisManager_var manager = AnalysisManagerOf(*opened.Get());
+    return manager && AppendModels(*manager.Get(), roots);
 }
 
 int PrintTree(const std::string& path)
 {
     const OpenedDocument opened(path);
-    if (opened.Get() == nullptr) {
+    if (opened.Inside() == nullptr) {
         return Failed;
     }
-    const VEXListValVEXBaseUnknown_var roots = TreeRoots(opened.Get());
+    VEXListValVEXBaseUnknown_var roots;
+    bool complete = AppendTreeRoots(opened, roots);
     for (int i = 1; i <= roots.Size(); ++i) {
         const VEXINavigateObject_var root = roots[i];
         HLXGenString text;
-        if (FAILED(DumpFeatureTree(root.Get(), 0, text))) {
-            std::fprintf(stderr, "hlx: the tree of %s cannot be shown\n", path.c_str());
-            return Failed;
+        if (root && SUCCEEDED(DumpFeatureTree(root.Get(), 0, text)) && text.Length() > 0) {
+            Write({text.c_str(), text.Length()});
+        } else {
+            complete = Report("a tree of " + vex::system::Quoted(path) + " cannot be shown");
         }
-        std::fwrite(text.c_str(), 1, text.Length(), stdout);
     }
-    return Done;
+    return complete ? Done : Failed;
 }
 
 }  // namespace

@@ -1,12 +1,26 @@
 // SPDX-License-Identifier: Apache-2.0
 // `hlx`: makes and looks at documents of the reference host without writing a test program.
 #include "Commands.h"
+#include "Messages.h"
+#include "host/system/MessageTexts.h"
 
-int main(int argc, char** argv)
+#include <exception>
+
+namespace {
+
+/// The same as CLI11 says, but nothing on the command line forges a line of it.
+std::string WrongLine(const CLI::App*, const CLI::Error& error)
+{
+    return vex::system::Printable(error.what()) + "\nRun with --help for more information.\n";
+}
+
+int Run(int argc, char** argv)
 {
     CLI::App program{"Makes and shows documents of the reference host."};
     program.name("hlx");
-    program.require_subcommand(1);
+    // None is refused below: a wrong word is then named rather than a missing subcommand.
+    program.require_subcommand(0, 1);
+    program.failure_message(WrongLine);
     program.footer(
         "exit codes: 0 done, 1 failed (reason on standard error), 2 wrong command line\n"
         "environment: VEX_SETTINGS=FILE settings store, VEX_COMPONENT_PATH, VEX_CATALOG_PATH "
@@ -20,8 +34,26 @@ int main(int argc, char** argv)
     hlx::AddProbesCommand(program, exitCode);
     try {
         program.parse(argc, argv);
+        if (program.get_subcommands().empty()) throw CLI::RequiredError("A subcommand");
     } catch (const CLI::ParseError& error) {
         return program.exit(error) == 0 ? hlx::Done : hlx::WrongCommandLine;
+    }
+    return exitCode;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    int exitCode = hlx::Failed;
+    try {
+        exitCode = Run(argc, argv);
+    } catch (const std::exception& error) {
+        hlx::Report(vex::system::Printable(error.what()));
+    }
+    if (!hlx::OutputArrived()) {
+        hlx::Report("standard output could not be written: some of what was to be shown is lost");
+        return exitCode == hlx::Done ? hlx::Failed : exitCode;
     }
     return exitCode;
 }

@@ -3,13 +3,12 @@
 // each. A kind that is not here has the interfaces of the nearest base in the catalogue that is.
 // The rows that these extend are the host's (HostComponents.cpp).
 #include "host/component/Adapter.h"
+#include "host/feature/Refusal.h"
 #include "host/system/Probe.h"
 #include "product/cases/AnalysisCaseAdapters.h"
 #include "product/catalog/CatalogFile.h"
 #include "product/conditions/LoadFactory.h"
 #include "product/settings/GeneralSettingController.h"
-
-#include <cstdio>
 
 namespace hlx {
 
@@ -50,8 +49,7 @@ HRESULT Start()
 {
     std::string error;
     if (!LoadCatalog(CatalogFolders(), error)) {
-        std::fprintf(stderr, "hlx: %s\n", error.c_str());
-        return E_FAIL;
+        return vex::Refuse(E_FAIL, error);
     }
     return S_OK;
 }

@@ -119,10 +119,11 @@ public:
     virtual HRESULT Reserved2() { return E_NOTIMPL; }
     virtual HRESULT Reserved3() { return E_NOTIMPL; }
 
-    /// Makes a feature of a late type. @param name  alias; empty for none @param father  feature to
-    /// make it under
-    /// @return the feature with a reference that the caller releases; null when the type is unknown
-    /// or the father is gone
+    /// Makes a feature of a late type.
+    /// @param name    alias, valid UTF-8; empty for none
+    /// @param father  feature of this document to make it under
+    /// @return the feature with a reference that the caller releases; null when the type is
+    /// unknown, the name is no valid UTF-8, or the father is gone or of another document
     virtual VEXBaseUnknown* CreateFeature(const VEXUnicodeString& lateType,
                                           const VEXUnicodeString& name, VEXISpecObject* father) = 0;
 };

@@ -61,6 +61,8 @@ class VEXIDescendants : public VEXBaseUnknown
 {
 public:
     /// Appends the descendants that implement the named interface, each before those below it.
+    /// @return S_OK; E_FAIL, nothing appended, when the object is gone or a linked document cannot
+    /// be opened (reason on standard error)
     virtual HRESULT GetAllChildren(const char* interfaceName,
                                    VEXListValVEXISpecObject_var& descendants) const = 0;
 };
@@ -88,7 +90,8 @@ public:
     /// Number of objects in the container that implement the named interface.
     virtual int GetMemberCount(const char* interfaceName) const = 0;
 
-    /// Those objects, in order: a new list that the caller deletes.
+    /// Those objects, in order: a new list that the caller deletes; null when the container is
+    /// gone.
     virtual VEXListValVEXBaseUnknown_var* ListMembers(const char* interfaceName) const = 0;
 };
 

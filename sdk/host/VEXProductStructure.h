@@ -9,7 +9,8 @@ class VEXIProduct : public VEXBaseUnknown
 {
 public:
     /// The children that implement the named interface, in order: a new list that the caller
-    /// deletes; null when the product is gone.
+    /// deletes; null when the product is gone or the document it links to cannot be opened (reason
+    /// on standard error).
     virtual VEXListValVEXBaseUnknown_var* GetChildren(const char* interfaceName) const = 0;
 
     /// Part number of the product, for example "Bracket".

@@ -10,7 +10,8 @@
 inline constexpr std::size_t VEXMaxPathSize = 4096;
 
 /// Joins directory and name with one separator ('/'); a directory that ends in separators keeps
-/// one. With an empty directory the path is the name, with an empty name the directory.
+/// one, and the name's own at its start are dropped. With an empty directory the path is the name
+/// as it is, with an empty name the directory.
 /// @param path  buffer of VEXMaxPathSize bytes that receives the path
 /// @return S_OK; E_INVALIDARG (and an empty path) when the joined path does not fit or `path` is
 /// null

@@ -15,12 +15,13 @@ VEX_EXPORT HRESULT DumpFeatureTree(VEXINavigateObject* root, int depth, HLXGenSt
 class VEX_EXPORT HLXAnalysisDocUtils
 {
 public:
-    /// The analysis manager of an open analysis document. @return S_OK; E_INVALIDARG for no open
-    /// document; E_FAIL
+    /// The analysis manager of an open analysis document.
+    /// @return S_OK; E_INVALIDARG for no open analysis document; E_FAIL
     static HRESULT GetAnalysisManager(VEXISamAnalysisManager_var& manager,
                                       const VEXDocument* document);
 
     /// Appends the analysis cases of all models of the document, in order.
+    /// @return S_OK, also when there is none; E_INVALIDARG for no open analysis document; E_FAIL
     static HRESULT GetAllAnalysisCases(VEXListValVEXBaseUnknown_var& cases, VEXDocument* document);
 
     /// The document that holds an analysis case, not counted; null for an empty handle or a case
@@ -34,6 +35,7 @@ public:
     /// Brings the data of an older document up to this release, step by step; a current one is left
     /// as it is.
     /// @param mode  0: quietly; 1: each step is told on standard error
-    /// @return S_OK; E_INVALIDARG for no open analysis document; a failing step's code
+    /// @return S_OK; E_INVALIDARG for no open analysis document; E_FAIL when a step is missing; a
+    /// failing step's code
     static HRESULT HandleZPKVersioning(VEXDocument* document, int mode);
 };

@@ -124,6 +124,33 @@ TEST_P(StaticInputFileTest, AnEmptyPathIsPassedOn)
               (std::vector<std::string>{"HLXIIfwTraverser::WriteInputFile(\"\", [1])"}));
 }
 
+TEST_P(StaticInputFileTest, AnEmptyPathThatTheWriterRefusesSucceedsAndWritesNothing)
+{
+    const VEXISamAnalysisCase_var analysisCase = Case(1);
+    EXPECT_EQ(RunWith("HLXIIfwTraverser::WriteInputFile=E_INVALIDARG",
+                      [&] { return StaticInputFile::Write(GetParam(), analysisCase, ""); }),
+              (Outcome{S_OK, "", ""}));
+    const Outcome outcome =
+        OutcomeOf([&] { return StaticInputFile::Write(GetParam(), analysisCase, ""); });
+    EXPECT_EQ(outcome.result, S_OK);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{});
+}
+
+TEST_P(StaticInputFileTest, AnOptionThatCannotBeSetDoesNotStopTheWriting)
+{
+    const VEXISamAnalysisCase_var analysisCase = Case(1);
+    const std::string flat = FlatInputFile(analysisCase);
+    ASSERT_NE(flat, StructuredInputFile(analysisCase));
+    for (const char* const fault :
+         {"HLXIZPKWBGeneralSettingAtt::SetWriteFlatInputFileFlag=E_FAIL",
+          "GetZPKWBGeneralSettingCtrl=E_FAIL", "GetZPKWBGeneralSettingCtrl=null"}) {
+        WriteFile(path, "former");
+        EXPECT_EQ(Write(analysisCase, fault), (Outcome{S_OK, "", ""})) << fault;
+        EXPECT_EQ(ReadFile(path), flat) << fault;
+    }
+}
+
 TEST_P(StaticInputFileTest, WriterAndCaseKeepNoReference)
 {
     const HLXIIfwTraverser_var writer = InputFileWriter();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The analysis cases of a document: all of them, one by its name, a new one.
 #include "HLXProductUtilities.h"
+#include "VEXComponents.h"
 #include "support/AnalysisDocuments.h"
 #include "support/ExposedTestCase.h"
 #include "support/Outcome.h"
@@ -326,8 +327,11 @@ TEST_F(NewCaseTest, TheTypeIsPassedOnUnchanged)
 TEST_F(NewCaseTest, WithoutElementBehaviorOnlyTheCaseIsMade)
 {
     for (const int flag : {0, 2, 255}) {
-        EXPECT_EQ(CallsOf([&] { Add(static_cast<unsigned char>(flag)); },
-                          {"VEXInstantiate", "HLXIHac", "HLXIElement"}),
+        EXPECT_EQ(CallsOf(
+                      [&] {
+                          EXPECT_EQ(Add(static_cast<unsigned char>(flag)), (Outcome{S_OK, "", ""}));
+                      },
+                      {"VEXInstantiate", "HLXIHac", "HLXIElement"}),
                   (std::vector<std::string>{
                       "VEXInstantiateComponent(\"HLXHacAnalysisCaseFact\", "
                       "HLXIHacAnalysisCaseFact, &)",
@@ -339,7 +343,11 @@ TEST_F(NewCaseTest, WithoutElementBehaviorOnlyTheCaseIsMade)
 
 TEST_F(NewCaseTest, WithElementBehaviorItIsMadeAfterTheCase)
 {
-    EXPECT_EQ(CallsOf([&] { Add(1); }, {"VEXInstantiate", "HLXIHac", "HLXIElement"}),
+    EXPECT_EQ(CallsOf(
+                  [&] {
+                      EXPECT_EQ(Add(1), (Outcome{S_OK, "", ""}));
+                  },
+                  {"VEXInstantiate", "HLXIHac", "HLXIElement"}),
               (std::vector<std::string>{
                   "VEXInstantiateComponent(\"HLXHacAnalysisCaseFact\", "
                   "HLXIHacAnalysisCaseFact, &)",
@@ -353,6 +361,43 @@ TEST_F(NewCaseTest, WithElementBehaviorItIsMadeAfterTheCase)
     VEXListValVEXBaseUnknown_var behaviors;
     EXPECT_EQ(made->GetChildren("HLXElementBehaviorLT", behaviors, 1), S_OK);
     EXPECT_EQ(behaviors.Size(), 1);
+}
+
+TEST_F(NewCaseTest, TheFactoriesAreNotReleased)
+{
+    void* cases = nullptr;
+    void* behaviors = nullptr;
+    ASSERT_EQ(
+        VEXInstantiateComponent("HLXHacAnalysisCaseFact", IID_HLXIHacAnalysisCaseFact, &cases),
+        S_OK);
+    ASSERT_EQ(
+        VEXInstantiateComponent("HLXElementBehaviorFact", IID_HLXIElementBehaviorFact, &behaviors),
+        S_OK);
+    const auto caseFactory = VEXAdopt(static_cast<HLXIHacAnalysisCaseFact*>(cases));
+    const auto behaviorFactory = VEXAdopt(static_cast<HLXIElementBehaviorFact*>(behaviors));
+    const unsigned long caseBefore = References(*caseFactory.Get());
+    const unsigned long behaviorBefore = References(*behaviorFactory.Get());
+    EXPECT_EQ(Add(0), (Outcome{S_OK, "", ""}));
+    ASSERT_EQ(References(*caseFactory.Get()), caseBefore + 1);
+    ASSERT_EQ(References(*behaviorFactory.Get()), behaviorBefore);
+    EXPECT_EQ(Add(1), (Outcome{S_OK, "", ""}));
+    ASSERT_EQ(References(*caseFactory.Get()), caseBefore + 2);
+    ASSERT_EQ(References(*behaviorFactory.Get()), behaviorBefore + 1);
+    caseFactory->Release();
+    caseFactory->Release();
+    behaviorFactory->Release();
+}
+
+TEST_F(NewCaseTest, TheReferenceToTheCaseIsTheLists)
+{
+    const VEXBaseUnknown_var former = CasesOfDocument()[3];
+    for (const int flag : {0, 1}) {
+        EXPECT_EQ(Add(static_cast<unsigned char>(flag)), (Outcome{S_OK, "", ""}));
+        const VEXBaseUnknown_var made = CasesOfDocument()[CasesOfDocument().Size()];
+        EXPECT_EQ(References(*made.Get()), References(*former.Get()) + 1);
+        testCase._AnalysisCases.RemoveAll();
+        EXPECT_EQ(References(*made.Get()), References(*former.Get()));
+    }
 }
 
 TEST_F(NewCaseTest, WithoutADocumentNobodyIsAsked)

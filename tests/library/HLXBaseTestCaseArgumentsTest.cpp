@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <array>
+#include <bit>
 #include <limits>
 
 namespace hlxtest {
@@ -152,7 +153,7 @@ protected:
 TEST_F(ArgumentsTest, ReadsNoEntryThatTheCountDoesNotUse)
 {
     // An entry that ends the process when it is read.
-    char* const unreadable = reinterpret_cast<char*>(std::uintptr_t{8});
+    char* const unreadable = std::bit_cast<char*>(std::uintptr_t{8});
     struct
     {
         int argc;
@@ -212,6 +213,18 @@ TEST_F(ArgumentsTest, EveryVerdictButZeroAcceptsTheCount)
         CommandLine line(kEntries);
         EXPECT_EQ(OutcomeOf([&] { return fresh.ProcessArguments(3, line.Values()); }),
                   (Outcome{1, kD, ""}));
+    }
+}
+
+TEST_F(ArgumentsTest, WithoutEntriesNothingIsTaken)
+{
+    for (const int argc : {3, 4, 5, 6, 9}) {
+        Recording recording;
+        EXPECT_EQ(OutcomeOf([&] { return testCase.ProcessArguments(argc, nullptr); }),
+                  (Outcome{1, "", ""}))
+            << argc;
+        EXPECT_THAT(recording.StopNames(), IsEmpty());
+        EXPECT_EQ(PathsOf(testCase), Paths{});
     }
 }
 

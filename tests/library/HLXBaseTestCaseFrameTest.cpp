@@ -26,7 +26,7 @@ const char kPostProcess[] = "\n In HLXBaseTestCase::PostProcess() \n";
 class PreProcessTest : public testing::Test
 {
 protected:
-    ~PreProcessTest() override
+    void TearDown() override
     {
         if (testCase._Document != nullptr) {
             EXPECT_EQ(VEXDocumentServices::Remove(*testCase._Document, 1), S_OK);
@@ -79,15 +79,42 @@ TEST_F(PreProcessTest, TouchesNoDocumentInAnotherMode)
 TEST_F(PreProcessTest, AnswersWhatOpeningAnswers)
 {
     StoreAnalysisDocument(path, 0);
-    EXPECT_EQ(PreProcess(0, "VEXDocumentServices::OpenDocument=E_ACCESSDENIED").result,
-              E_ACCESSDENIED);
-    EXPECT_EQ(PreProcess(0, "VEXDocumentServices::OpenDocument=1,keep").result, 1);
+    EXPECT_EQ(PreProcess(0, "VEXDocumentServices::OpenDocument=E_ACCESSDENIED"),
+              (Outcome{E_ACCESSDENIED,
+                       kPreProcess + inputLine + "ERROR in opening document" + path + "\n", ""}));
+    EXPECT_EQ(testCase._Document, nullptr);
+    EXPECT_EQ(PreProcess(0, "VEXDocumentServices::OpenDocument=1,keep"),
+              (Outcome{1, kPreProcess + inputLine + "Open Document " + path + " OK\n", ""}));
+    EXPECT_NE(testCase._Document, nullptr);
 }
 
 TEST_F(PreProcessTest, AnswersWhatMakingAnswers)
 {
-    EXPECT_EQ(PreProcess(1, "VEXDocumentServices::New=E_ACCESSDENIED").result, E_ACCESSDENIED);
-    EXPECT_EQ(PreProcess(1, "VEXDocumentServices::New=1,keep").result, 1);
+    EXPECT_EQ(PreProcess(1, "VEXDocumentServices::New=E_FAIL"),
+              (Outcome{E_FAIL,
+                       kPreProcess + inputLine + "**********ERROR in creating analysis document:" +
+                           path + " hr:-2147467259\n",
+                       ""}));
+    EXPECT_EQ(testCase._Document, nullptr);
+    EXPECT_EQ(PreProcess(1, "VEXDocumentServices::New=1,keep"),
+              (Outcome{1, kPreProcess + inputLine + "**********create doc ok\n", ""}));
+    EXPECT_NE(testCase._Document, nullptr);
+}
+
+TEST_F(PreProcessTest, MakesADocumentOfTheEmptyTypeAfterARefusedCommandLine)
+{
+    testCase.verifyArguments = [](int) { return static_cast<unsigned char>(0); };
+    Recording recording;
+    EXPECT_EQ(PreProcess(1, "VEXDocumentServices::New=E_FAIL"),
+              (Outcome{E_FAIL,
+                       std::string(kPreProcess) +
+                           "**********ERROR in creating analysis document: hr:-2147467259\n",
+                       ""}));
+    const std::vector<vex::probe::Call> calls = recording.Stop();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(calls[0].name, "VEXDocumentServices::New");
+    EXPECT_EQ(calls[0].arguments.at(0), "\"\"");
+    EXPECT_EQ(testCase._Document, nullptr);
 }
 
 TEST_F(PreProcessTest, GoesOnAfterARefusedCommandLine)
@@ -158,6 +185,8 @@ TEST(HLXBaseTestCasePostProcess, WithoutADocumentPrintsItsBannerOnly)
 TEST(HLXBaseTestCasePostProcess, RemovesTheDocumentWhateverLinksToIt)
 {
     AnalysisDocument document(0);
+    // Its destructor removes it and expects that to succeed.
+    AnalysisDocument other(0);
     Case testCase;
     testCase._Document = document.Release();
     Recording recording;
@@ -165,7 +194,7 @@ TEST(HLXBaseTestCasePostProcess, RemovesTheDocumentWhateverLinksToIt)
     const std::vector<vex::probe::Call> calls = recording.Stop();
     ASSERT_EQ(calls.size(), 1U);
     EXPECT_EQ(calls[0].name, "VEXDocumentServices::Remove");
-    EXPECT_EQ(calls[0].arguments.back(), "1");
+    EXPECT_EQ(calls[0].arguments, (std::vector<std::string>{"VEXAnalysis", "1"}));
     EXPECT_EQ(calls[0].result, "S_OK");
     EXPECT_EQ(testCase._Document, nullptr);
 

@@ -91,6 +91,38 @@ TEST_F(InputFileTest, AnEmptyPathIsPassedOn)
     EXPECT_EQ(folder.Names(), std::vector<std::string>{});
 }
 
+TEST_F(InputFileTest, WithoutAPathAnEmptyFirstInputFileIsPassedOn)
+{
+    testCase._HollexFile1Path = "";
+    Outcome outcome{};
+    EXPECT_EQ(CallsOf(
+                  [&] {
+                      outcome =
+                          Write(Case(1), nullptr, "HLXIIfwTraverser::WriteInputFile=E_INVALIDARG");
+                  },
+                  {"HLXIIfwTraverser::"}),
+              (std::vector<std::string>{"HLXIIfwTraverser::WriteInputFile(\"\", [1])"}));
+    EXPECT_EQ(outcome, (Outcome{E_INVALIDARG, "Input file writing failed", ""}));
+    outcome = Write(Case(1), nullptr);
+    EXPECT_EQ(outcome.result, E_INVALIDARG);
+    EXPECT_EQ(outcome.out, "Input file writing failed");
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{});
+}
+
+TEST_F(InputFileTest, AnOptionThatCannotBeSetDoesNotStopTheWriting)
+{
+    const std::string flat = FlatInputFile(Case(1));
+    ASSERT_NE(flat, StructuredInputFile(Case(1)));
+    for (const char* const fault :
+         {"HLXIZPKWBGeneralSettingAtt::SetWriteFlatInputFileFlag=E_FAIL",
+          "GetZPKWBGeneralSettingCtrl=E_FAIL", "GetZPKWBGeneralSettingCtrl=null"}) {
+        const std::string path = folder.File("default.inp");
+        WriteFile(path, "former");
+        EXPECT_EQ(Write(Case(1), nullptr, fault), (Outcome{S_OK, "", ""})) << fault;
+        EXPECT_EQ(ReadFile(path), flat) << fault;
+    }
+}
+
 TEST_F(InputFileTest, TheOptionIsOffAroundTheWholeWriting)
 {
     const std::string path = folder.File("job.inp");

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // From construction to destruction: defaults, copies, what is released and what is not.
+#include "library/FullCase.h"
 #include "support/AnalysisDocuments.h"
-#include "support/ExposedTestCase.h"
-#include "support/Outcome.h"
-#include "support/StandIns.h"
 
 #include <gmock/gmock.h>
 
 #include <functional>
-#include <memory>
 #include <type_traits>
 
 namespace hlxtest {
@@ -19,23 +16,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 using Case = ExposedTestCase;
-using TextMember = VEXUnicodeString HLXBaseTestCase::*;
-
-const TextMember kTexts[] = {
-    &Case::_InputDirectory,
-    &Case::_InputFilePath,
-    &Case::_OutputDirectory,
-    &Case::_HollexFile1Path,
-    &Case::_HollexFile2Path,
-    &Case::_DumpTreeTitle,
-    &Case::_DumpTreeFileName,
-    &Case::_TimeLogFilePath,
-    &Case::_HollexFile1Name,
-    &Case::_HollexFile2Name,
-    &Case::_IntermediateInputFilePath,
-    &Case::_InputFileName,
-};
-
 static_assert(std::is_same_v<decltype(Case::_PartIndex), int>);
 static_assert(std::is_same_v<decltype(Case::_Document), VEXDocument*>);
 static_assert(std::is_same_v<decltype(Case::_AnalysisCases), VEXListValVEXBaseUnknown_var>);
@@ -53,87 +33,7 @@ static_assert(std::is_same_v<decltype(Case::_TimeLogFile), std::FILE*>);
 static_assert(HLXBaseTestCase::OpenExisting == 0);
 static_assert(HLXBaseTestCase::CreateNew == 1);
 
-/// A case all of whose members are set, to objects that tell when they die.
-class FullCase : public testing::Test
-{
-protected:
-    FullCase() : held(std::make_unique<Case>())
-    {
-        int number = 0;
-        for (const TextMember text : kTexts) {
-            (*held).*text = std::to_string(++number).c_str();
-        }
-        held->_PartIndex = 7;
-        held->_Document = document;
-        held->_AnalysisCases.Append(VEXAdopt<VEXBaseUnknown>(analysisCase));
-        held->_RootProduct = VEXAdopt<VEXIProduct>(product);
-        held->_Body = VEXAdopt<VEXBody>(body);
-        held->_LoadFactory = loadFactory;
-        held->_PartDocContainer = containers;
-        held->_NavigateObject = VEXAdopt<VEXINavigateObject>(navigate);
-        held->_MechanicalPart = VEXAdopt<VEXISpecObject>(mechanicalPart);
-        held->_PartLink = VEXAdopt<VEXILinkableObject>(link);
-        held->_AnalysisContainer = VEXAdopt<VEXISamAnalysisContainer>(analysisContainer);
-        held->_AmplitudeFeature = VEXAdopt<VEXISpecObject>(amplitude);
-        held->_TimeLogFile = stderr;
-    }
-
-    /// Whether every member of `copy` is what was set above.
-    void ExpectAllMembers(const Case& copy)
-    {
-        int number = 0;
-        for (const TextMember text : kTexts) {
-            EXPECT_EQ(copy.*text, std::to_string(++number).c_str());
-        }
-        EXPECT_EQ(copy._PartIndex, 7);
-        EXPECT_EQ(copy._Document, document);
-        EXPECT_EQ(copy._AnalysisCases.Size(), 1);
-        EXPECT_EQ(copy._AnalysisCases[1].Get(), analysisCase);
-        EXPECT_EQ(copy._RootProduct.Get(), product);
-        EXPECT_EQ(copy._Body.Get(), body);
-        EXPECT_EQ(copy._LoadFactory, loadFactory);
-        EXPECT_EQ(copy._PartDocContainer, containers);
-        EXPECT_EQ(copy._NavigateObject.Get(), navigate);
-        EXPECT_EQ(copy._MechanicalPart.Get(), mechanicalPart);
-        EXPECT_EQ(copy._PartLink.Get(), link);
-        EXPECT_EQ(copy._AnalysisContainer.Get(), analysisContainer);
-        EXPECT_EQ(copy._AmplitudeFeature.Get(), amplitude);
-        EXPECT_EQ(copy._TimeLogFile, stderr);
-    }
-
-    /// Whether the handles of `cases` cases are counted, and the two owned pointers only once.
-    void ExpectCounts(unsigned long cases)
-    {
-        for (const VEXBaseUnknown* const object :
-             {static_cast<const VEXBaseUnknown*>(analysisCase),
-              static_cast<const VEXBaseUnknown*>(product), static_cast<const VEXBaseUnknown*>(body),
-              static_cast<const VEXBaseUnknown*>(navigate),
-              static_cast<const VEXBaseUnknown*>(mechanicalPart),
-              static_cast<const VEXBaseUnknown*>(link),
-              static_cast<const VEXBaseUnknown*>(analysisContainer),
-              static_cast<const VEXBaseUnknown*>(amplitude)}) {
-            EXPECT_EQ(References(*object), cases);
-        }
-        EXPECT_EQ(References(*loadFactory), 1U);
-        EXPECT_EQ(References(*containers), 1U);
-    }
-
-    Deaths deaths;
-    AnyStandIn* analysisCase = new AnyStandIn(deaths, "analysis case");
-    ProductStandIn* product = new ProductStandIn(deaths, "product");
-    BodyStandIn* body = new BodyStandIn(deaths, "body");
-    AnyStandIn* loadFactory = new AnyStandIn(deaths, "load factory");
-    DocumentContainersStandIn* containers = new DocumentContainersStandIn(deaths, "containers");
-    NavigateStandIn* navigate = new NavigateStandIn(deaths, "navigate object");
-    FeatureStandIn* mechanicalPart = new FeatureStandIn(deaths, "mechanical part");
-    LinkStandIn* link = new LinkStandIn(deaths, "part link");
-    AnalysisContainerStandIn* analysisContainer =
-        new AnalysisContainerStandIn(deaths, "analysis container");
-    FeatureStandIn* amplitude = new FeatureStandIn(deaths, "amplitude");
-    /// Never looked at: whoever does ends the process.
-    VEXDocument* document = reinterpret_cast<VEXDocument*>(std::uintptr_t{8});
-    std::unique_ptr<Case> held;
-};
+using FullCase = FullCaseOf<Case>;
 
 // --- Construction and copies --------------------------------------------------------------------
 
@@ -291,6 +191,39 @@ TEST_F(FullCase, DyingDropsOneReferenceToWhatItOwns)
     EXPECT_EQ(References(*containers), 1U);
     loadFactory->Release();
     containers->Release();
+}
+
+/// A feature that looks around when it dies.
+class Witness : public FeatureStandIn
+{
+public:
+    Witness(Deaths& deaths, std::function<void()> atDeath)
+        : FeatureStandIn(deaths, "witness"), _atDeath(std::move(atDeath))
+    {}
+    ~Witness() override { _atDeath(); }
+
+private:
+    std::function<void()> _atDeath;
+};
+
+TEST_F(FullCase, FourMembersAreResetBeforeTheHandlesDie)
+{
+    const int* const partIndex = &held->_PartIndex;
+    VEXDocument* const* const heldDocument = &held->_Document;
+    VEXBaseUnknown* const* const heldFactory = &held->_LoadFactory;
+    VEXIContainerOfDocument* const* const heldContainers = &held->_PartDocContainer;
+    int looks = 0;
+    const auto look = [&] {
+        ++looks;
+        EXPECT_EQ(*partIndex, 1);
+        EXPECT_EQ(*heldDocument, nullptr);
+        EXPECT_EQ(*heldFactory, nullptr);
+        EXPECT_EQ(*heldContainers, nullptr);
+    };
+    held->_AmplitudeFeature = VEXAdopt<VEXISpecObject>(new Witness(deaths, look));
+    held->_MechanicalPart = VEXAdopt<VEXISpecObject>(new Witness(deaths, look));
+    held.reset();
+    EXPECT_EQ(looks, 2);
 }
 
 TEST_F(FullCase, OwnedPointersAreReleasedEachOnItsOwn)

@@ -10,6 +10,8 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 namespace hlxtest {
 
 namespace {
@@ -216,7 +218,9 @@ INSTANTIATE_TEST_SUITE_P(
     Unopened, DumpStops,
     testing::Values(DumpFault{"Refused", "VEXFOpen=E_FAIL", kUnopenedDump},
                     DumpFault{"RefusedWithAnotherCode", "VEXFOpen=-1", kUnopenedDump},
-                    DumpFault{"WithoutAPath", "VEXMakePath=E_FAIL", kUnopenedDump}),
+                    DumpFault{"WithoutAPath", "VEXMakePath=E_FAIL", kUnopenedDump},
+                    DumpFault{"SucceededWithoutADescriptor", "VEXFOpen=S_OK", kWholeDump},
+                    DumpFault{"SucceededWithOneWithoutADescriptor", "VEXFOpen=1", kWholeDump}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(DumpTest, ATreeThatCannotBeDumpedIsEmpty)
@@ -238,6 +242,13 @@ TEST_F(DumpTest, AFileThatCannotBeWrittenIsClosedAllTheSame)
     EXPECT_EQ(Dump("w", "VEXFWrite=E_FAIL"), silence);
     EXPECT_EQ(recording.StopNames(), kWholeDump);
     EXPECT_EQ(Written(), "");
+}
+
+TEST_F(DumpTest, WithoutADescriptorNoneIsWrittenToAndClosed)
+{
+    EXPECT_EQ(
+        CallsOf([&] { EXPECT_EQ(Dump("w", "VEXFOpen=1"), silence); }, {"VEXFW", "VEXFC"}).back(),
+        "VEXFClose(0)");
 }
 
 TEST_F(DumpTest, IsTheSameInAForeignLocale)
@@ -281,7 +292,11 @@ TEST_F(SaveTest, ReplacesAnExistingFile)
 {
     WriteFile(path, "something else");
     EXPECT_EQ(Save(), (Outcome{0, "", ""}));
-    EXPECT_NE(ReadFile(path), "something else");
+    EXPECT_THAT(folder.Names(), ElementsAre("b.VEXAnalysis"));
+    const std::string replaced = ReadFile(path);
+    std::filesystem::remove(path);
+    EXPECT_EQ(Save(), (Outcome{0, "", ""}));
+    EXPECT_EQ(replaced, ReadFile(path));
 }
 
 TEST_F(SaveTest, SavesTheDocumentGivenNotTheCasesOwn)
@@ -304,6 +319,30 @@ TEST_F(SaveTest, WhatTheJoiningAnswersIsNotLookedAt)
 {
     EXPECT_EQ(Save("VEXMakePath=E_FAIL,keep"), (Outcome{0, "", ""}));
     EXPECT_THAT(folder.Names(), ElementsAre("b.VEXAnalysis"));
+}
+
+TEST_F(SaveTest, APathThatCannotBeJoinedIsHandedOnEmpty)
+{
+    EXPECT_EQ(
+        CallsOf([&] {
+            EXPECT_EQ(Save("VEXMakePath=E_FAIL;VEXDocumentServices::SaveAs=E_FAIL"),
+                      (Outcome{0, "", ""}));
+        }),
+        (std::vector<std::string>{"VEXMakePath(\"" + folder.Path() + "\", \"b.VEXAnalysis\", &)",
+                                  "VEXDocumentServices::SaveAs(VEXAnalysis, \"\", \"\", 1)"}));
+    EXPECT_EQ(Save("VEXMakePath=E_FAIL").out, "");
+    EXPECT_THAT(folder.Names(), IsEmpty());
+    EXPECT_TRUE(document.Get()->StorageName().IsEmpty());
+}
+
+TEST_F(SaveTest, AMissingOutputDirectoryIsNeitherMadeNorReported)
+{
+    testCase._OutputDirectory = folder.File("missing").c_str();
+    const Outcome outcome = Save();
+    EXPECT_EQ(outcome.result, 0);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_THAT(folder.Names(), IsEmpty());
+    EXPECT_TRUE(document.Get()->StorageName().IsEmpty());
 }
 
 TEST_F(SaveTest, NoDocumentSavesNothing)

@@ -5,6 +5,8 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 
+#include <bit>
+
 namespace hlxtest {
 
 namespace {
@@ -94,13 +96,13 @@ TEST_F(TimingTest, TheClockIsReadAfterTheLabelAndBeforeTheFigure)
 TEST_F(TimingTest, StopTimerClosesTheLogAndKeepsThePointer)
 {
     Create("Run");
-    const auto former = reinterpret_cast<std::uintptr_t>(testCase._TimeLogFile);
+    const auto former = std::bit_cast<std::uintptr_t>(testCase._TimeLogFile);
     const int descriptor = fileno(testCase._TimeLogFile);
     EXPECT_NE(fcntl(descriptor, F_GETFD), -1);
     testCase.StartTimer("");
     testCase.StopTimer();
     EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);
-    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(testCase._TimeLogFile), former);
+    EXPECT_EQ(std::bit_cast<std::uintptr_t>(testCase._TimeLogFile), former);
 }
 
 TEST_F(TimingTest, ANewLogMayFollowAClosedOne)

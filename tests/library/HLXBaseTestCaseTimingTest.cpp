@@ -47,6 +47,49 @@ TEST_F(TimingTest, PrintsThePathAndFlushesIt)
               (Outcome{0, "", ""}));
 }
 
+TEST_F(TimingTest, ThePathIsPrintedBeforeTheLogIsOpened)
+{
+    std::string name = "Run";
+    bool opened = true;
+    {
+        FlushedOutput output;
+        output.atFlush = [&] { opened = FileExists(path); };
+        testCase.CreateTimeLoggingFile(name.data());
+    }
+    EXPECT_FALSE(opened);
+    EXPECT_TRUE(FileExists(path));
+    testCase.StartTimer("");
+    testCase.StopTimer();
+}
+
+TEST_F(TimingTest, ALogStillOpenIsNotClosedByTheNextOne)
+{
+    Create("First");
+    testCase.StartTimer("");
+    std::FILE* const first = testCase._TimeLogFile;
+    Create("Second");
+    EXPECT_NE(testCase._TimeLogFile, first);
+    testCase.StartTimer("");
+    testCase.StopTimer();
+    EXPECT_EQ(std::fputs("still open\n", first) >= 0, true);
+    EXPECT_EQ(std::fclose(first), 0);
+    EXPECT_EQ(ReadFile(folder.File("First_System A_5_5_2008.txt")), kHead + "still open\n");
+    EXPECT_EQ(ReadFile(folder.File("Second_System A_5_5_2008.txt")), kHead + "0.000\tseconds\n");
+}
+
+TEST_F(TimingTest, ALogOnAFullDiskIsNotReported)
+{
+    std::filesystem::create_symlink("/dev/full", path);
+    std::string name = "Run";
+    const std::string label(100'000, 'x');
+    EXPECT_EQ(OutcomeOf([&] {
+                  testCase.CreateTimeLoggingFile(name.data());
+                  testCase.StartTimer(label.c_str());
+                  testCase.StopTimer();
+              }),
+              (Outcome{0, "**********timelogging file : " + path + "\n", ""}));
+}
+
 TEST_F(TimingTest, AsksThePlatformForTheSystemAndThenJoinsThePath)
 {
     EXPECT_THAT(CallsOf([&] { Create("Run"); }),
@@ -104,10 +147,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(TimingTest, ANullNameIsAnEmptyOne)
 {
-    Capture([&] { testCase.CreateTimeLoggingFile(nullptr); });
-    testCase.StartTimer("");
-    testCase.StopTimer();
+    const std::string unnamed = folder.File("_System A_5_5_2008.txt");
+    EXPECT_EQ(OutcomeOf([&] {
+                  testCase.CreateTimeLoggingFile(nullptr);
+                  testCase.StartTimer("");
+                  testCase.StopTimer();
+              }),
+              (Outcome{0, "**********timelogging file : " + unnamed + "\n", ""}));
     EXPECT_THAT(folder.Names(), ElementsAre("_System A_5_5_2008.txt"));
+    EXPECT_EQ(ReadFile(unnamed), kHead + "0.000\tseconds\n");
 }
 
 struct DateRow

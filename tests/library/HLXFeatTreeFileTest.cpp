@@ -3,10 +3,13 @@
 #include "HLXAnalysisTestUtils.h"
 #include "HLXProductUtilities.h"
 #include "support/AnalysisDocuments.h"
+#include "support/ForeignNumbers.h"
 #include "support/Outcome.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace hlxtest {
 namespace {
@@ -171,6 +174,20 @@ TEST_F(FeatTreeFileTest, TheDocumentPointerIsLeftAsItIs)
     VEXDocument* const before = document.Get();
     Write();
     EXPECT_EQ(document.Get(), before);
+}
+
+TEST_F(FeatTreeFileTest, AFullDiskIsNotDetected)
+{
+    std::filesystem::create_symlink("/dev/full", path);
+    EXPECT_EQ(Write(), (Outcome{S_OK, "", ""}));
+}
+
+TEST_F(FeatTreeFileTest, TheFileIsTheSameInAForeignLocale)
+{
+    const std::string tree = Tree();
+    const ForeignNumbers foreign;
+    EXPECT_EQ(Write(), (Outcome{S_OK, "", ""}));
+    EXPECT_EQ(ReadFile(path), head + tree + "\n");
 }
 
 TEST_F(FeatTreeFileTest, AFileThatCannotBeOpenedIsNotDetected)

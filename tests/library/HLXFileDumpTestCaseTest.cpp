@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // The ready-made test case that dumps the feature tree and writes the input files of a document.
-#include "HLXProductUtilities.h"
 #include "HLXTestCaseDriver.h"
-#include "support/AnalysisDocuments.h"
-#include "support/CommandLine.h"
-#include "support/ExposedFileDumpTestCase.h"
-#include "support/FlatFileOption.h"
-#include "support/InputFileWriter.h"
-#include "support/Outcome.h"
-#include "support/TemporaryFolder.h"
+#include "library/FileDumpFixture.h"
+#include "library/FullCase.h"
 
 #include <gtest/gtest.h>
 
@@ -17,70 +11,12 @@
 namespace hlxtest {
 namespace {
 
+constexpr const char* banner = kPostProcessBanner;
+
 // Each argument of a call is typed once.
 const std::string flagOff = "HLXIZPKWBGeneralSettingAtt::SetWriteFlatInputFileFlag(0)";
 const std::string flagOn = "HLXIZPKWBGeneralSettingAtt::SetWriteFlatInputFileFlag(1)";
 const std::string removal = "VEXDocumentServices::Remove(VEXAnalysis, 1)";
-
-constexpr const char* banner = "\n In HLXBaseTestCase::PostProcess() \n";
-
-/// A stored document with some cases, dumped into an empty folder as job.inp.
-class FileDumpTest : public testing::Test
-{
-protected:
-    FileDumpTest() { SetFlatFileOption(1); }
-    ~FileDumpTest() override
-    {
-        EXPECT_EQ(FlatFileOption(), 1);
-        if (testCase._Document != nullptr) {
-            EXPECT_EQ(VEXDocumentServices::Remove(*testCase._Document, 1), S_OK);
-        }
-    }
-
-    /// Opens a document with `cases` cases as the command line would.
-    void Open(int cases)
-    {
-        StoreAnalysisDocument(documentPath, cases);
-        CommandLine line{"program", input.Path().c_str(), "model.VEXAnalysis",
-                         output.Path().c_str(), "job.inp"};
-        Capture([&] {
-            EXPECT_EQ(testCase.PreProcess(line.Count(), line.Values(), testCase.OpenExisting),
-                      S_OK);
-        });
-        ASSERT_NE(testCase._Document, nullptr);
-    }
-
-    Outcome PostProcess(std::string_view faults = "")
-    {
-        return RunWith(faults, [&] { return testCase.PostProcess(); });
-    }
-
-    /// What the frame, asked directly, gives for the document: kept for comparison with the files.
-    VEXListValVEXBaseUnknown_var Cases()
-    {
-        VEXListValVEXBaseUnknown_var cases;
-        EXPECT_EQ(HLXAnalysisDocUtils::GetAllAnalysisCases(cases, testCase._Document), S_OK);
-        return cases;
-    }
-
-    std::string Tree()
-    {
-        VEXISamAnalysisManager_var manager;
-        EXPECT_EQ(HLXAnalysisDocUtils::GetAnalysisManager(manager, testCase._Document), S_OK);
-        VEXListValVEXBaseUnknown_var models;
-        EXPECT_EQ(manager->GetAllAnalysisModels(models), S_OK);
-        const VEXINavigateObject_var root = models[1];
-        HLXGenString text;
-        EXPECT_EQ(DumpFeatureTree(root.Get(), 0, text), S_OK);
-        return text.c_str();
-    }
-
-    TemporaryFolder input;
-    TemporaryFolder output;
-    const std::string documentPath = input.File("model.VEXAnalysis");
-    const std::string dump = output.File("job.inp_FeatTree.txt");
-    ExposedFileDumpTestCase testCase;
-};
 
 // --- Process and VerifyArguments
 // ------------------------------------------------------------------
@@ -126,17 +62,26 @@ TEST_F(FileDumpTest, TheRunTimeClassIsThatOfTheFrame)
     EXPECT_EQ(testCase.IsAKindOf("HLXFileDumpTestCase"), 0);
 }
 
-TEST_F(FileDumpTest, CopiesTakeTheMembersOver)
+using FullFileDumpCase = FullCaseOf<ExposedFileDumpTestCase>;
+
+TEST_F(FullFileDumpCase, ACopyHasEveryMemberAndCountsTheHandlesOnly)
 {
-    testCase._HollexFile1Path = "out/job.inp";
-    testCase._PartIndex = 3;
-    const ExposedFileDumpTestCase copy(testCase);
-    EXPECT_EQ(copy._HollexFile1Path, "out/job.inp");
-    EXPECT_EQ(copy._PartIndex, 3);
-    ExposedFileDumpTestCase assigned;
-    assigned = testCase;
-    EXPECT_EQ(assigned._HollexFile1Path, "out/job.inp");
-    EXPECT_EQ(assigned._PartIndex, 3);
+    ExposedFileDumpTestCase copy(*held);
+    ExpectAllMembers(copy);
+    ExpectAllMembers(*held);
+    ExpectCounts(2);
+    copy.InitializeClassMembers();
+}
+
+TEST_F(FullFileDumpCase, AssignmentGivesEveryMemberAndCountsTheHandlesOnly)
+{
+    ExposedFileDumpTestCase other;
+    ExposedFileDumpTestCase& answer = (other = *held);
+    EXPECT_EQ(&answer, &other);
+    ExpectAllMembers(other);
+    ExpectAllMembers(*held);
+    ExpectCounts(2);
+    other.InitializeClassMembers();
 }
 
 // --- Files of a document with some cases
@@ -172,11 +117,8 @@ TEST_P(FilesTest, OneDumpAndOneInputFileACaseStandInTheOutputFolder)
     for (std::size_t i = 0; i < names.size(); ++i) {
         EXPECT_EQ(ReadFile(output.File(names[i])), expected[i]) << names[i];
     }
-    const std::string dumped = ReadFile(dump);
-    const std::string start = "   job.inpFeature Tree Dump:\n\n";
-    EXPECT_EQ(dumped.substr(0, start.size()), start);
     EXPECT_NE(tree, "");
-    EXPECT_NE(dumped.find(tree), std::string::npos);
+    EXPECT_EQ(ReadFile(dump), DumpOf(tree));
     EXPECT_EQ(testCase._Document, nullptr);
 }
 
@@ -205,14 +147,15 @@ TEST_F(FileDumpTest, AFormerDumpIsReplaced)
 {
     WriteFile(dump, std::string(100000, 'x'));
     Open(1);
-    PostProcess();
-    EXPECT_EQ(ReadFile(dump).find('x'), std::string::npos);
+    const std::string tree = Tree();
+    EXPECT_EQ(PostProcess(), (Outcome{S_OK, std::string(banner) + "Program Ends\n", ""}));
+    EXPECT_EQ(ReadFile(dump), DumpOf(tree));
 }
 
 TEST_F(FileDumpTest, DumpAndTitleAreNamedAfterTheInputFile)
 {
     Open(1);
-    PostProcess();
+    EXPECT_EQ(PostProcess(), (Outcome{S_OK, std::string(banner) + "Program Ends\n", ""}));
     EXPECT_EQ(testCase._DumpTreeFileName, "job.inp_FeatTree.txt");
     EXPECT_EQ(testCase._DumpTreeTitle, "   job.inpFeature Tree Dump");
 }
@@ -417,10 +360,16 @@ TEST_P(FailureWithCasesTest, DoesNotKeepTheFilesFromBeingWritten)
 {
     Open(2);
     testCase._AnalysisCases = Cases();
+    const std::string first = StructuredInputFile(testCase._AnalysisCases[1]);
+    const std::string second = StructuredInputFile(testCase._AnalysisCases[2]);
     EXPECT_EQ(PostProcess(GetParam().faults),
               (Outcome{S_OK, GetParam().out + std::string(banner) + "Program Ends\n", ""}));
     EXPECT_EQ(output.Names(), (std::vector<std::string>{"job.inp_FeatTree.txt", "job.inp_case_1",
                                                         "job.inp_case_2"}));
+    // Nothing to dump was found.
+    EXPECT_EQ(ReadFile(dump), DumpOf(""));
+    EXPECT_EQ(ReadFile(output.File("job.inp_case_1")), first);
+    EXPECT_EQ(ReadFile(output.File("job.inp_case_2")), second);
     EXPECT_EQ(testCase._Document, nullptr);
 }
 
@@ -505,19 +454,21 @@ TEST_F(FileDumpTest, AFailingSingleCaseDoesNotChangeTheResult)
 TEST_F(FileDumpTest, AFailingDumpIsNotReported)
 {
     Open(1);
+    const std::string inputFile = StructuredInputFile(Cases()[1]);
     EXPECT_EQ(PostProcess("DumpFeatureTree=E_FAIL"),
               (Outcome{S_OK, std::string(banner) + "Program Ends\n", ""}));
-    EXPECT_TRUE(FileExists(output.File("job.inp")));
+    EXPECT_EQ(ReadFile(dump), DumpOf(""));
+    EXPECT_EQ(ReadFile(output.File("job.inp")), inputFile);
 }
 
 TEST_F(FileDumpTest, AFailingRemovalIsAnsweredAndTheProgramDoesNotEnd)
 {
     Open(1);
     VEXDocument* const document = testCase._Document;
-    const Outcome outcome = PostProcess("VEXDocumentServices::Remove=E_ACCESSDENIED");
-    EXPECT_EQ(outcome.result, E_ACCESSDENIED);
-    EXPECT_EQ(outcome.out.find("Program Ends"), std::string::npos);
-    EXPECT_EQ(outcome.out.substr(0, std::string(banner).size()), banner);
+    EXPECT_EQ(
+        PostProcess("VEXDocumentServices::Remove=E_ACCESSDENIED"),
+        (Outcome{E_ACCESSDENIED, std::string(banner) + "Failure removing the document.", ""}));
+    EXPECT_EQ(testCase._Document, nullptr);
     EXPECT_EQ(FlatFileOption(), 1);
     EXPECT_EQ(VEXDocumentServices::Remove(*document, 1), S_OK);
 }

@@ -69,8 +69,8 @@ std::string UnitsInForce()
 class UnitsTest : public testing::Test
 {
 protected:
-    UnitsTest() { ForceUsual(); }
-    ~UnitsTest() override { ForceUsual(); }
+    void SetUp() override { ForceUsual(); }
+    void TearDown() override { ForceUsual(); }
 
     static void ForceUsual()
     {
@@ -81,10 +81,17 @@ protected:
         EXPECT_EQ(settings->SetBasicUnitTemperature("K"), S_OK);
     }
 
-    static long SetInches(HLXSetUnitSystem& units)
+    /// The result of a call that is to print nothing.
+    static long Set(HLXSetUnitSystem& units, const char* length, const char* mass, const char* time,
+                    const char* temperature)
     {
-        return units.SetBasicUnits("in", "lb", "h", "F");
+        const Outcome outcome =
+            OutcomeOf([&] { return units.SetBasicUnits(length, mass, time, temperature); });
+        EXPECT_EQ(outcome, (Outcome{outcome.result, "", ""}));
+        return outcome.result;
     }
+
+    static long SetInches(HLXSetUnitSystem& units) { return Set(units, "in", "lb", "h", "F"); }
 };
 
 TEST_F(UnitsTest, SavesSetsAndStoresInOrderAndPutsBack)
@@ -114,7 +121,7 @@ TEST_F(UnitsTest, PrintsNothing)
 {
     EXPECT_EQ(OutcomeOf([] {
                   HLXSetUnitSystem units;
-                  return SetInches(units);
+                  return units.SetBasicUnits("in", "lb", "h", "F");
               }),
               (Outcome{S_OK, "", ""}));
     EXPECT_EQ(OutcomeOf([] {
@@ -143,7 +150,7 @@ TEST_F(UnitsTest, ASecondCallSavesWhatTheFirstSet)
     const unsigned long before = References(*settings.Get());
     std::optional<HLXSetUnitSystem> units(std::in_place);
     EXPECT_EQ(SetInches(*units), S_OK);
-    EXPECT_EQ(units->SetBasicUnits("km", "t", "min", "C"), S_OK);
+    EXPECT_EQ(Set(*units, "km", "t", "min", "C"), S_OK);
     EXPECT_EQ(UnitsInForce(), "km t min C");
     EXPECT_THAT(
         SettingCalls([&] { units.reset(); }),
@@ -162,7 +169,7 @@ TEST_F(UnitsTest, ASecondCallThatCannotQueryForgetsTheWayToStoreOfTheFirst)
     EXPECT_EQ(SetInches(*units), S_OK);
     {
         const Faults faults(std::string(kRepositoryCast) + "=E_NOINTERFACE");
-        EXPECT_EQ(units->SetBasicUnits("km", "t", "min", "C"), E_FAIL);
+        EXPECT_EQ(Set(*units, "km", "t", "min", "C"), E_FAIL);
     }
     EXPECT_THAT(SettingCalls([&] { units.reset(); }),
                 ElementsAre("Set Length in", "Set Mass lb", "Set Time h", "Set Temperature F"));
@@ -175,7 +182,7 @@ TEST_F(UnitsTest, ASecondCallThatFailsEarlierKeepsTheWayToStoreOfTheFirst)
     EXPECT_EQ(SetInches(*units), S_OK);
     {
         const Faults faults("HLXIZPKWBGeneralSettingAtt::SetBasicUnitTemperature=E_FAIL");
-        EXPECT_EQ(units->SetBasicUnits("km", "t", "min", "C"), E_FAIL);
+        EXPECT_EQ(Set(*units, "km", "t", "min", "C"), E_FAIL);
     }
     EXPECT_THAT(
         SettingCalls([&] { units.reset(); }),
@@ -275,7 +282,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(UnitsTest, WhatWasSetBeforeAFailureStaysSet)
 {
     HLXSetUnitSystem units;
-    EXPECT_EQ(units.SetBasicUnits("in", "lb", "fortnight", "F"), E_INVALIDARG);
+    EXPECT_EQ(Set(units, "in", "lb", "fortnight", "F"), E_INVALIDARG);
     EXPECT_EQ(UnitsInForce(), "in lb s K");
 }
 
@@ -311,6 +318,23 @@ TEST_F(UnitsTest, WithoutAWayToStoreTheUnitsAreSetAndTheCallFails)
     }
 }
 
+TEST_F(UnitsTest, AQueryThatFailsAlthoughItGaveAWayToStoreIsAFailure)
+{
+    const HLXIZPKWBGeneralSettingAtt_var settings = GeneralSettings();
+    const unsigned long before = References(*settings.Get());
+    {
+        HLXSetUnitSystem units;
+        const Faults faults(kRepositoryCast + std::string("=E_NOINTERFACE,keep"));
+        Lines expected = First(8);
+        expected.emplace_back("Query");
+        EXPECT_EQ(SettingCalls([&] { EXPECT_EQ(SetInches(units), E_FAIL); }), expected);
+    }
+    // Whose the interface is that came with a failure, nobody says.
+    while (References(*settings.Get()) > before) {
+        settings->Release();
+    }
+}
+
 TEST_F(UnitsTest, AnswersWhatStoringAnswers)
 {
     for (const long code : {static_cast<long>(E_ACCESSDENIED), -1L, 1L}) {
@@ -335,6 +359,63 @@ TEST_F(UnitsTest, PuttingBackGoesOnAfterAFailure)
     expected.emplace_back("Commit");
     EXPECT_EQ(OutcomeOf([&] { EXPECT_EQ(SettingCalls([&] { units.reset(); }), expected); }),
               (Outcome{0, "", ""}));
+}
+
+// --- Results that are not looked at, and those that are ------------------------------------------
+
+TEST_F(UnitsTest, AControllerThatComesWithAFailureIsTaken)
+{
+    std::optional<HLXSetUnitSystem> units;
+    {
+        const Faults faults("GetZPKWBGeneralSettingCtrl=E_FAIL,keep");
+        EXPECT_EQ(OutcomeOf([&] { units.emplace(); }), (Outcome{0, "", ""}));
+    }
+    EXPECT_NE((*units).*Get(UnitsController()), nullptr);
+    EXPECT_EQ(SetInches(*units), S_OK);
+    EXPECT_EQ(UnitsInForce(), "in lb h F");
+    Lines expected = kUsualBack;
+    expected.emplace_back("Commit");
+    EXPECT_EQ(SettingCalls([&] { units.reset(); }), expected);
+}
+
+TEST_F(UnitsTest, AUnitThatComesWithAFailureEndsTheCallAndIsPutBack)
+{
+    std::optional<HLXSetUnitSystem> units(std::in_place);
+    {
+        const Faults faults("HLXIZPKWBGeneralSettingAtt::GetBasicUnitMass=E_ACCESSDENIED,keep");
+        EXPECT_EQ(SettingCalls([&] { EXPECT_EQ(SetInches(*units), E_ACCESSDENIED); }), First(2));
+    }
+    EXPECT_EQ(SettingCalls([&] { units.reset(); }),
+              (Lines{"Set Length mm", "Set Mass kg", "Set Time ", "Set Temperature "}));
+    EXPECT_EQ(UnitsInForce(), "mm kg s K");
+}
+
+TEST_F(UnitsTest, AWayToStoreThatComesWithAFailureIsUsedAtTheEndOnly)
+{
+    const HLXIZPKWBGeneralSettingAtt_var settings = GeneralSettings();
+    const unsigned long before = References(*settings.Get());
+    std::optional<HLXSetUnitSystem> units(std::in_place);
+    Lines expected = First(8);
+    expected.emplace_back("Query");
+    {
+        const Faults faults(std::string(kRepositoryCast) + "=E_NOINTERFACE,keep");
+        EXPECT_EQ(SettingCalls([&] { EXPECT_EQ(SetInches(*units), E_FAIL); }), expected);
+    }
+    EXPECT_NE((*units).*Get(UnitsRepository()), nullptr);
+    EXPECT_EQ(UnitsInForce(), "in lb h F");
+    expected = kUsualBack;
+    expected.emplace_back("Commit");
+    EXPECT_EQ(SettingCalls([&] { units.reset(); }), expected);
+    EXPECT_EQ(References(*settings.Get()), before);
+}
+
+TEST_F(UnitsTest, AWayToStoreWithAPositiveResultIsUsed)
+{
+    HLXSetUnitSystem units;
+    Lines expected = First(8);
+    expected.insert(expected.end(), {"Query", "Commit"});
+    const Faults faults(std::string(kRepositoryCast) + "=1,keep");
+    EXPECT_EQ(SettingCalls([&] { EXPECT_EQ(SetInches(units), S_OK); }), expected);
 }
 
 // --- Members and copies -------------------------------------------------------------------------

@@ -10,7 +10,10 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <limits>
+#include <memory>
+#include <new>
 
 namespace hlxtest {
 
@@ -84,6 +87,11 @@ protected:
         return diary;
     }
 
+    Outcome Add(HLXBaseTestCase* testCase)
+    {
+        return OutcomeOf([&] { return driver.AddTestCase(testCase); });
+    }
+
     Diary diary;
     ToldCase a{diary, "a"};
     ToldCase b{diary, "b"};
@@ -93,17 +101,18 @@ protected:
 
 TEST_F(HLXTestCaseDriverTest, AddTestCaseAnswersTheNumberOfCases)
 {
-    EXPECT_EQ(driver.AddTestCase(&a), 1);
-    EXPECT_EQ(driver.AddTestCase(&b), 2);
-    EXPECT_EQ(driver.AddTestCase(&a), 3);
+    EXPECT_EQ(Add(&a), (Outcome{1, "", ""}));
+    EXPECT_EQ(Add(&b), (Outcome{2, "", ""}));
+    EXPECT_EQ(Add(&a), (Outcome{3, "", ""}));
+    EXPECT_THAT(diary, IsEmpty());
 }
 
 TEST_F(HLXTestCaseDriverTest, NullIsNotRegistered)
 {
-    EXPECT_EQ(driver.AddTestCase(nullptr), 0);
-    EXPECT_EQ(driver.AddTestCase(&a), 1);
-    EXPECT_EQ(driver.AddTestCase(nullptr), 1);
-    EXPECT_EQ(driver.AddTestCase(&b), 2);
+    EXPECT_EQ(Add(nullptr), (Outcome{0, "", ""}));
+    EXPECT_EQ(Add(&a), (Outcome{1, "", ""}));
+    EXPECT_EQ(Add(nullptr), (Outcome{1, "", ""}));
+    EXPECT_EQ(Add(&b), (Outcome{2, "", ""}));
     EXPECT_THAT(RunAll(driver), ElementsAre("a PreProcess", "a Process", "a PostProcess",
                                             "b PreProcess", "b Process", "b PostProcess"));
 }
@@ -199,6 +208,18 @@ TEST_F(HLXTestCaseDriverTest, ACaseAddedWhileRunningWaitsForTheNextRun)
                                             "c PreProcess", "c Process", "c PostProcess"));
 }
 
+TEST_F(HLXTestCaseDriverTest, CasesThatAreGoneWhenTheirTurnComesArePassedOver)
+{
+    HLXTestCaseDriver shorter;
+    shorter.AddTestCase(&a);
+    for (ToldCase* const testCase : {&a, &b, &c}) {
+        driver.AddTestCase(testCase);
+    }
+    a.duringProcess = [&] { driver = shorter; };
+    EXPECT_EQ(OutcomeOf([&] { RunAll(driver); }), (Outcome{0, "", ""}));
+    EXPECT_THAT(diary, ElementsAre("a PreProcess", "a Process", "a PostProcess"));
+}
+
 TEST_F(HLXTestCaseDriverTest, ACopyHasTheCasesOfTheTimeOfCopying)
 {
     driver.AddTestCase(&a);
@@ -257,11 +278,14 @@ TEST_F(HLXTestCaseDriverTest, NeitherRegisteringNorRunningNorDyingTouchesACaseTh
 TEST(HLXTestCaseDriver, DiesAfterItsCasesWithoutTouchingThem)
 {
     Diary diary;
-    HLXTestCaseDriver driver;
-    {
-        ToldCase shortLived(diary, "a");
-        driver.AddTestCase(&shortLived);
-    }
+    alignas(ToldCase) std::array<unsigned char, sizeof(ToldCase)> place{};
+    auto driver = std::make_unique<HLXTestCaseDriver>();
+    auto* const shortLived = new (place.data()) ToldCase(diary, "a");
+    driver->AddTestCase(shortLived);
+    shortLived->~ToldCase();
+    place.fill(0xA5);
+    EXPECT_EQ(OutcomeOf([&] { driver.reset(); }), (Outcome{0, "", ""}));
+    EXPECT_THAT(place, testing::Each(0xA5));
     EXPECT_THAT(diary, ElementsAre("a dies"));
 }
 
@@ -327,6 +351,55 @@ TEST(HLXTestCaseDriver, GoesOnAfterACaseWhoseCommandLineIsRefused)
                            folder.File("a.VEXAnalysis") +
                            " OK\n"
                            "\n In HLXBaseTestCase::PostProcess() \n",
+                       ""}));
+}
+
+TEST(HLXTestCaseDriver, ADocumentLeftByAFailedPreProcessStaysLoaded)
+{
+    const TemporaryFolder folder;
+    StoreAnalysisDocument(folder.File("a.VEXAnalysis"), 0);
+    ExposedTestCase testCase;
+    testCase.process = [] {
+        ADD_FAILURE() << "a case whose PreProcess failed was run";
+        return 0L;
+    };
+    HLXTestCaseDriver driver;
+    driver.AddTestCase(&testCase);
+    CommandLine line{"program", folder.Path().c_str(), "a.VEXAnalysis"};
+    EXPECT_EQ(RunWith("VEXDocumentServices::OpenDocument=E_ACCESSDENIED,keep",
+                      [&] { driver.Run(line.Count(), line.Values()); }),
+              (Outcome{0,
+                       "\n In HLXBaseTestCase::PreProcess() \n"
+                       "**********Input file name : " +
+                           folder.File("a.VEXAnalysis") +
+                           "\n"
+                           "ERROR in opening document" +
+                           folder.File("a.VEXAnalysis") + "\n",
+                       ""}));
+    ASSERT_NE(testCase._Document, nullptr);
+    EXPECT_EQ(testCase._Document->StorageName(), folder.File("a.VEXAnalysis").c_str());
+    EXPECT_EQ(VEXDocumentServices::Remove(*testCase._Document, 1), S_OK);
+}
+
+TEST(HLXTestCaseDriver, RunsACaseWhosePreProcessSucceededWithoutADocument)
+{
+    ExposedTestCase testCase;
+    testCase.process = [&] {
+        EXPECT_EQ(testCase._Document, nullptr);
+        std::fputs("the test\n", stdout);
+        return 0L;
+    };
+    HLXTestCaseDriver driver;
+    driver.AddTestCase(&testCase);
+    CommandLine line{"program", "in", "a.VEXAnalysis"};
+    EXPECT_EQ(RunWith("VEXDocumentServices::OpenDocument=null",
+                      [&] { driver.Run(line.Count(), line.Values()); }),
+              (Outcome{0,
+                       "\n In HLXBaseTestCase::PreProcess() \n"
+                       "**********Input file name : in/a.VEXAnalysis\n"
+                       "ERROR in opening documentin/a.VEXAnalysis\n"
+                       "the test\n"
+                       "\n In HLXBaseTestCase::PostProcess() \n",
                        ""}));
 }
 

@@ -38,8 +38,8 @@ using testing::IsEmpty;
 class OptionsTest : public testing::Test
 {
 protected:
-    OptionsTest() { SetFlatFileOption(1); }
-    ~OptionsTest() override { SetFlatFileOption(1); }
+    void SetUp() override { SetFlatFileOption(1); }
+    void TearDown() override { SetFlatFileOption(1); }
 
     void Make(const std::string& faults = "")
     {
@@ -50,6 +50,14 @@ protected:
         manager.emplace();
     }
 
+    /// The result of a call that is to print nothing.
+    long Set(unsigned char flag)
+    {
+        const Outcome outcome = OutcomeOf([&] { return manager->SetWriteFlatInputFileFlag(flag); });
+        EXPECT_EQ(outcome, (Outcome{outcome.result, "", ""}));
+        return outcome.result;
+    }
+
     std::optional<HLXToolsOptionsManager> manager;
 };
 
@@ -57,7 +65,7 @@ TEST_F(OptionsTest, SavesSetsStoresAndPutsBack)
 {
     EXPECT_THAT(SettingCalls([&] { manager.emplace(); }),
                 ElementsAre("Lookup", "Query", "Get Flat"));
-    EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(manager->SetWriteFlatInputFileFlag(0), S_OK); }),
+    EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(Set(0), S_OK); }),
                 ElementsAre("Set Flat 0", "Commit"));
     EXPECT_EQ(FlatFileOption(), 0);
     EXPECT_THAT(SettingCalls([&] { manager.reset(); }), ElementsAre("Set Flat 1", "Commit"));
@@ -68,7 +76,7 @@ TEST_F(OptionsTest, PutsStructuredFilesBackToo)
 {
     SetFlatFileOption(0);
     manager.emplace();
-    EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(manager->SetWriteFlatInputFileFlag(1), S_OK); }),
+    EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(Set(1), S_OK); }),
                 ElementsAre("Set Flat 1", "Commit"));
     EXPECT_EQ(FlatFileOption(), 1);
     EXPECT_THAT(SettingCalls([&] { manager.reset(); }), ElementsAre("Set Flat 0", "Commit"));
@@ -79,10 +87,10 @@ TEST_F(OptionsTest, HandsEveryFlagOnAndSavesOnlyOnce)
 {
     manager.emplace();
     EXPECT_THAT(SettingCalls([&] {
-                    EXPECT_EQ(manager->SetWriteFlatInputFileFlag(0), S_OK);
-                    EXPECT_EQ(manager->SetWriteFlatInputFileFlag(2), S_OK);
-                    EXPECT_EQ(manager->SetWriteFlatInputFileFlag(255), S_OK);
-                    EXPECT_EQ(manager->SetWriteFlatInputFileFlag(0), S_OK);
+                    EXPECT_EQ(Set(0), S_OK);
+                    EXPECT_EQ(Set(2), S_OK);
+                    EXPECT_EQ(Set(255), S_OK);
+                    EXPECT_EQ(Set(0), S_OK);
                     manager.reset();
                 }),
                 ElementsAre("Set Flat 0", "Commit", "Set Flat 2", "Commit", "Set Flat 255",
@@ -152,7 +160,7 @@ TEST_F(OptionsTest, WithoutAControllerNothingCanBeDone)
         EXPECT_EQ(SettingCalls([&] { Make(fault); }), Lines{"Lookup"});
         EXPECT_EQ((*manager).*Get(OptionsFlag()), 1);
         EXPECT_THAT(SettingCalls([&] {
-                        EXPECT_EQ(manager->SetWriteFlatInputFileFlag(0), E_FAIL);
+                        EXPECT_EQ(Set(0), E_FAIL);
                         manager.reset();
                     }),
                     IsEmpty());
@@ -165,16 +173,39 @@ TEST_F(OptionsTest, WithoutARepositoryTheFlagIsSetButNotStored)
     for (const char* const outcome : {"=E_NOINTERFACE", "=null"}) {
         EXPECT_THAT(SettingCalls([&] { Make(kRepositoryCast + std::string(outcome)); }),
                     ElementsAre("Lookup", "Query", "Get Flat"));
-        EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(manager->SetWriteFlatInputFileFlag(0), S_OK); }),
-                    ElementsAre("Set Flat 0"));
+        EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(Set(0), S_OK); }), ElementsAre("Set Flat 0"));
         EXPECT_EQ(FlatFileOption(), 0);
         {
             const Faults faults("HLXIZPKWBGeneralSettingAtt::SetWriteFlatInputFileFlag=1,keep");
-            EXPECT_EQ(manager->SetWriteFlatInputFileFlag(0), 1);
+            EXPECT_EQ(Set(0), 1);
         }
         EXPECT_THAT(SettingCalls([&] { manager.reset(); }), ElementsAre("Set Flat 1"));
         EXPECT_EQ(FlatFileOption(), 1);
     }
+}
+
+TEST_F(OptionsTest, AControllerThatComesWithAFailureIsTaken)
+{
+    SetFlatFileOption(0);
+    EXPECT_THAT(SettingCalls([&] { Make("GetZPKWBGeneralSettingCtrl=E_FAIL,keep"); }),
+                ElementsAre("Lookup", "Query", "Get Flat"));
+    EXPECT_EQ((*manager).*Get(OptionsFlag()), 0);
+    EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(Set(1), S_OK); }),
+                ElementsAre("Set Flat 1", "Commit"));
+    EXPECT_THAT(SettingCalls([&] { manager.reset(); }), ElementsAre("Set Flat 0", "Commit"));
+    EXPECT_EQ(FlatFileOption(), 0);
+}
+
+TEST_F(OptionsTest, ARepositoryThatComesWithAFailureIsUsed)
+{
+    const HLXIZPKWBGeneralSettingAtt_var settings = GeneralSettings();
+    const unsigned long before = References(*settings.Get());
+    EXPECT_THAT(SettingCalls([&] { Make(std::string(kRepositoryCast) + "=E_NOINTERFACE,keep"); }),
+                ElementsAre("Lookup", "Query", "Get Flat"));
+    EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(Set(0), S_OK); }),
+                ElementsAre("Set Flat 0", "Commit"));
+    EXPECT_THAT(SettingCalls([&] { manager.reset(); }), ElementsAre("Set Flat 1", "Commit"));
+    EXPECT_EQ(References(*settings.Get()), before);
 }
 
 TEST_F(OptionsTest, AFlagThatCannotBeReadCountsAsOne)
@@ -191,8 +222,7 @@ TEST_F(OptionsTest, ASetterThatFailsIsAnsweredAndNothingIsStored)
     for (const long code : {static_cast<long>(E_ACCESSDENIED), -1L}) {
         const Faults faults("HLXIZPKWBGeneralSettingAtt::SetWriteFlatInputFileFlag=" +
                             std::to_string(code));
-        EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(manager->SetWriteFlatInputFileFlag(0), code); }),
-                    ElementsAre("Set Flat 0"));
+        EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(Set(0), code); }), ElementsAre("Set Flat 0"));
     }
 }
 
@@ -200,7 +230,7 @@ TEST_F(OptionsTest, ASetterThatAnswersOneHasSucceededAndStoringIsAnswered)
 {
     manager.emplace();
     const Faults faults("HLXIZPKWBGeneralSettingAtt::SetWriteFlatInputFileFlag=1,keep");
-    EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(manager->SetWriteFlatInputFileFlag(0), S_OK); }),
+    EXPECT_THAT(SettingCalls([&] { EXPECT_EQ(Set(0), S_OK); }),
                 ElementsAre("Set Flat 0", "Commit"));
 }
 
@@ -209,7 +239,7 @@ TEST_F(OptionsTest, AnswersWhatStoringAnswers)
     manager.emplace();
     for (const long code : {static_cast<long>(E_ACCESSDENIED), -1L, 1L}) {
         const Faults faults("VEXIIniSettingManagment::Commit=" + std::to_string(code));
-        EXPECT_EQ(manager->SetWriteFlatInputFileFlag(0), code);
+        EXPECT_EQ(Set(0), code);
     }
 }
 

@@ -30,8 +30,10 @@ TEST(LoadFactory, IsMadeOnce)
 {
     ExposedTestCase testCase;
     EXPECT_THAT(CallsOf([&] {
-                    EXPECT_EQ(testCase.InitializeLoadFactory(), S_OK);
-                    EXPECT_EQ(testCase.InitializeLoadFactory(), S_OK);
+                    for (int call = 1; call <= 2; ++call) {
+                        EXPECT_EQ(OutcomeOf([&] { return testCase.InitializeLoadFactory(); }),
+                                  (Outcome{S_OK, "", ""}));
+                    }
                 }),
                 ElementsAre("VEXInstantiateComponent(\"HLXLoadFact\", HLXILoadFact, &)"));
     EXPECT_NE(testCase.GetLoadFactory(), nullptr);
@@ -70,7 +72,11 @@ TEST(LoadFactory, OneThatIsThereAlreadyIsKept)
     {
         ExposedTestCase testCase;
         testCase._LoadFactory = factory;
-        EXPECT_THAT(CallsOf([&] { EXPECT_EQ(testCase.InitializeLoadFactory(), S_OK); }), IsEmpty());
+        EXPECT_THAT(CallsOf([&] {
+                        EXPECT_EQ(OutcomeOf([&] { return testCase.InitializeLoadFactory(); }),
+                                  (Outcome{S_OK, "", ""}));
+                    }),
+                    IsEmpty());
         EXPECT_EQ(testCase.GetLoadFactory(), factory);
         EXPECT_EQ(References(*factory), 1U);
     }

@@ -2,6 +2,7 @@
 // Stands in for standard output while it lives, and tells what had been flushed.
 #pragma once
 
+#include <functional>
 #include <iostream>
 #include <sstream>
 #include <string>
@@ -16,6 +17,9 @@ public:
     FlushedOutput(const FlushedOutput&) = delete;
     FlushedOutput& operator=(const FlushedOutput&) = delete;
 
+    /// Called at each flush, if given.
+    std::function<void()> atFlush;
+
     /// What was written up to the last flush.
     const std::string& Text() const { return _flushed; }
 
@@ -23,6 +27,9 @@ private:
     int sync() override
     {
         _flushed = str();
+        if (atFlush) {
+            atFlush();
+        }
         return 0;
     }
 

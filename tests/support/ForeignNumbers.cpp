@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ForeignNumbers.h"
 
-
 #include <clocale>
 #include <cstdlib>
 #include <iostream>

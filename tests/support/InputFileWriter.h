@@ -26,18 +26,28 @@ inline HLXIIfwTraverser_var InputFileWriter()
     return VEXShare(component);
 }
 
-/// What the product writes for a case with the option "write flat input file" off.
-inline std::string StructuredInputFile(const VEXISamAnalysisCase_var& analysisCase)
+/// What the product writes for a case with that option "write flat input file".
+inline std::string InputFile(const VEXISamAnalysisCase_var& analysisCase, unsigned char option)
 {
     const TemporaryFolder folder;
     const std::string path = folder.File("expected.inp");
     const auto former = static_cast<unsigned char>(FlatFileOption());
-    SetFlatFileOption(0);
+    SetFlatFileOption(option);
     VEXListValVEXBaseUnknown_var cases;
     cases.Append(analysisCase);
     EXPECT_EQ(InputFileWriter()->WriteInputFile(VEXUnicodeString(path), cases), S_OK);
     SetFlatFileOption(former);
     return ReadFile(path);
+}
+
+inline std::string StructuredInputFile(const VEXISamAnalysisCase_var& analysisCase)
+{
+    return InputFile(analysisCase, 0);
+}
+
+inline std::string FlatInputFile(const VEXISamAnalysisCase_var& analysisCase)
+{
+    return InputFile(analysisCase, 1);
 }
 
 }  // namespace hlxtest

@@ -70,7 +70,7 @@ void Mark()
 std::vector<vex::probe::Call> CallsBetweenMarks(std::vector<vex::probe::Call> calls)
 {
     const auto isMark = [](const vex::probe::Call& call) {
-        return call.name == "VEXMakePath" && call.arguments[1] == std::string("\"") + kMark + '"';
+        return call.name == "VEXMakePath" && call.arguments[1].find(kMark) != std::string::npos;
     };
     const auto first = std::find_if(calls.begin(), calls.end(), isMark);
     const auto last = first == calls.end() ? first : std::find_if(first + 1, calls.end(), isMark);

@@ -4,9 +4,8 @@
 #include "host/analysis/AnalysisAdapters.h"
 #include "host/analysis/AnalysisObjects.h"
 #include "host/feature/DocumentSession.h"
+#include "host/feature/Refusal.h"
 #include "host/system/Probe.h"
-
-#include <cstdio>
 
 namespace vex {
 
@@ -38,7 +37,7 @@ HRESULT DocumentManagerAdapter::GetLinkedDocuments(VEXListPtrVEXDocument& docume
                 const Document* const document =
                     DocumentSession::Instance().OpenLinked(path, error);
                 if (document == nullptr) {
-                    std::fprintf(stderr, "vex: linked document: %s\n", error.c_str());
+                    Tell("linked document: " + error);
                 }
                 documents.Append(document == nullptr ? nullptr : document->AsVEXDocument());
             }

@@ -76,12 +76,9 @@ unsigned long Component::Release() const
 void Component::KeepByHost(bool kept) noexcept
 {
     _hostReferences = kept ? 1 : 0;
-    if (probe::active) {
-        if (_count > _hostReferences) {
-            probe::NoteHeld(this, IsA());
-        } else {
-            probe::NoteLetGo(this);
-        }
+    // A program that holds it was noted when it came to, or held it before the accounts began.
+    if (_count <= _hostReferences && probe::active) {
+        probe::NoteLetGo(this);
     }
 }
 

@@ -2,11 +2,11 @@
 // Component libraries: finding, opening, keeping. None is ever unloaded.
 #include "host/component/ComponentTypes.h"
 #include "host/component/HostLibrary.h"
+#include "host/component/LibraryFile.h"
 #include "host/system/MessageTexts.h"
 
 #include <dlfcn.h>
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -54,12 +54,6 @@ std::string HostFolder()
     return std::filesystem::path(Absolute(information.dli_fname)).parent_path().string();
 }
 
-std::string LoaderReason()
-{
-    const char* const reason = dlerror();
-    return reason == nullptr ? "no reason given" : reason;
-}
-
 /// The opened library lib<name>.so; null with the reason in `error`. `file` receives its path.
 void* Open(std::string_view name, std::string& file, std::string& error)
 {
@@ -68,27 +62,14 @@ void* Open(std::string_view name, std::string& file, std::string& error)
     if (void* const present = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NOLOAD)) {
         return present;
     }
-    const std::vector<std::string> folders = ComponentTypes::SearchPath();
-    for (const std::string& folder : folders) {
-        std::error_code ignored;
-        const std::string path = fmt::format("{}/{}", folder, file);
-        if (!std::filesystem::exists(path, ignored)) {
-            continue;
-        }
-        file = path;
-        void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-        if (library == nullptr) {
-            error = fmt::format(
-                "{}: it cannot be opened: {}. Install what it needs, or build it again.",
-                Quoted(path), system::Printable(LoaderReason()));
-        }
-        return library;
+    const std::string fileName = file;
+    void* const library =
+        OpenLibraryFile(ComponentTypes::SearchPath(), fileName,
+                        "Put it there, or name its folder in VEX_COMPONENT_PATH.", file, error);
+    if (library == nullptr && file.empty()) {
+        error = fmt::format("component library '{}': {}", name, error);
     }
-    error = fmt::format(
-        "component library '{}': no {} in {}. Put it there, or name its folder in "
-        "VEX_COMPONENT_PATH.",
-        name, file, system::Printable(fmt::format("{}", fmt::join(folders, ", "))));
-    return nullptr;
+    return library;
 }
 
 /// The folders that the user names.

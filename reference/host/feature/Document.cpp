@@ -2,6 +2,7 @@
 // A document's identity and contents.
 #include "host/feature/Document.h"
 
+#include "host/feature/DocumentPath.h"
 #include "host/feature/DocumentSession.h"
 
 namespace vex {
@@ -49,6 +50,12 @@ Feature* Document::BRepContainer() const
         }
     }
     return nullptr;
+}
+
+void Document::SetPath(std::string absolutePath)
+{
+    _pathIdentity = absolutePath.empty() ? std::string() : DocumentPathIdentity(absolutePath);
+    _path = std::move(absolutePath);
 }
 
 bool Document::Geometry(std::uint64_t number, std::span<const std::byte>& bytes, std::string& error)

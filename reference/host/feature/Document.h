@@ -45,9 +45,15 @@ public:
 
     /// Absolute; empty for a document that was never stored.
     const std::string& Path() const noexcept { return _path; }
-    void SetPath(std::string absolutePath) { _path = std::move(absolutePath); }
+    void SetPath(std::string absolutePath);
+    /// DocumentPathIdentity of the path, as it was when the path was set.
+    const std::string& PathIdentity() const noexcept { return _pathIdentity; }
     bool IsReadOnly() const noexcept { return _readOnly; }
     void SetReadOnly(bool readOnly) { _readOnly = readOnly; }
+    /// Whether the program opened or made it itself; else it is open only because another document
+    /// links to it.
+    bool IsOfProgram() const noexcept { return _ofProgram; }
+    void SetOfProgram(bool ofProgram) { _ofProgram = ofProgram; }
     /// Version of the data: as it was stored, or today's for a new document. An upgrade raises it;
     /// saving keeps it.
     unsigned DataVersion() const noexcept { return _dataVersion; }
@@ -80,7 +86,9 @@ private:
     DocumentType _type;
     FeatureTree _tree;
     std::string _path;
+    std::string _pathIdentity;
     bool _readOnly = false;
+    bool _ofProgram = false;
     bool _open = true;
     unsigned _dataVersion = store::kDataVersion;
     GeometryBlobs _blobs;

@@ -20,13 +20,17 @@ Links LinksAmong(const std::vector<Document*>& open)
     std::unordered_map<std::string, Document*> stored;
     for (Document* const document : open) {
         if (!document->Path().empty()) {
-            stored.emplace(DocumentPathIdentity(document->Path()), document);
+            stored.insert_or_assign(document->Path(), document);
+            stored.try_emplace(document->PathIdentity(), document);
         }
     }
     Links links;
     for (Document* const document : open) {
         for (const std::string& path : LinkedPaths(*document)) {
-            const auto target = stored.find(DocumentPathIdentity(path));
+            auto target = stored.find(path);
+            if (target == stored.end()) {
+                target = stored.find(DocumentPathIdentity(path));
+            }
             if (target != stored.end() && target->second != document) {
                 links[document].push_back(target->second);
             }
@@ -87,22 +91,22 @@ Removal PlanRemoval(const std::vector<Document*>& open, Document& removed)
     DocumentSet below;
     Reach(links, {&removed}, below);
 
-    // What was there without the removed document keeps what it links to.
+    // What is there without the removed document, and what the program opened, keeps what it links
+    // to.
     std::vector<Document*> others;
-    Removal removal;
     for (Document* const document : open) {
-        if (!below.contains(document)) {
+        if (document != &removed && (document->IsOfProgram() || !below.contains(document))) {
             others.push_back(document);
-            if (std::ranges::find(links[document], &removed) != links[document].end()) {
-                removal.user = document;
-            }
         }
     }
     DocumentSet kept{&removed};
     Reach(links, others, kept);
+    Removal removal;
     for (Document* const document : open) {
         if (document == &removed || !kept.contains(document)) {
             removal.going.push_back(document);
+        } else if (std::ranges::find(links[document], &removed) != links[document].end()) {
+            removal.user = document;
         }
     }
     return removal;

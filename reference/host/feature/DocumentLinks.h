@@ -15,7 +15,7 @@ VEX_EXPORT std::vector<std::string> LinkedPaths(const Document& document);
 /// What the removal of one document means to the others.
 struct Removal
 {
-    /// It and those of `open` that no other document needs any more: reached through it only.
+    /// It and those of `open` that are reached through it only and that the program did not open.
     std::vector<Document*> going;
     /// One that stays and links to the removed one; null when there is none.
     const Document* user = nullptr;

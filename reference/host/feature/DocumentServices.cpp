@@ -11,11 +11,16 @@ namespace vex {
 
 namespace {
 
-/// A document pointer of a program may be stale: it is shown by name only when it is one of the
-/// session's.
-std::string Shown(const Document* document)
+/// A document as an argument. A pointer of a program may be stale: it is shown by name only when it
+/// is one of the session's.
+struct Shown
 {
-    return document == nullptr ? "removed" : Document::TypeName(document->DocType());
+    const Document* document;
+};
+
+std::string TextOf(const Shown& shown)
+{
+    return shown.document == nullptr ? "removed" : Document::TypeName(shown.document->DocType());
 }
 
 HRESULT NotOpen()
@@ -77,7 +82,7 @@ HRESULT VEXDocumentServices::Save(VEXDocument& document)
             const HRESULT result = DocumentSession::Instance().Save(*open, error);
             return FAILED(result) ? vex::Refuse(result, error) : result;
         },
-        vex::In(vex::Shown(open)));
+        vex::In(vex::Shown{open}));
 }
 
 HRESULT VEXDocumentServices::SaveAs(VEXDocument& document, const VEXUnicodeString& path,
@@ -94,7 +99,7 @@ HRESULT VEXDocumentServices::SaveAs(VEXDocument& document, const VEXUnicodeStrin
                 *open, path.View(), type.View(), replaceExisting != 0, error);
             return FAILED(result) ? vex::Refuse(result, error) : result;
         },
-        vex::In(vex::Shown(open)), vex::In(path), vex::In(type), vex::In(replaceExisting));
+        vex::In(vex::Shown{open}), vex::In(path), vex::In(type), vex::In(replaceExisting));
 }
 
 HRESULT VEXDocumentServices::Remove(VEXDocument& document, short force)
@@ -109,5 +114,5 @@ HRESULT VEXDocumentServices::Remove(VEXDocument& document, short force)
             const HRESULT result = DocumentSession::Instance().Remove(*open, force != 0, error);
             return FAILED(result) ? vex::Refuse(result, error) : result;
         },
-        vex::In(vex::Shown(open)), vex::In(force));
+        vex::In(vex::Shown{open}), vex::In(force));
 }

@@ -60,22 +60,53 @@ bool DocumentSession::IsOpen(const Document* document) const noexcept
 
 Document* DocumentSession::Find(std::string_view path) const
 {
+    // Paths of links are mostly written as the document's own: the disk need not be asked.
+    if (Document* const document = FindKnown(std::string(path))) {
+        return document;
+    }
     std::string ignored;
     const std::string absolute = AbsoluteDocumentPath(path, ignored);
-    if (absolute.empty() || _documents.empty()) {
+    if (absolute.empty() || _byPath.empty()) {
         return nullptr;
     }
-    const auto same = std::ranges::find(_documents, absolute, &Document::Path);
-    if (same != _documents.end()) {
-        return *same;
-    }
-    const std::string identity = DocumentPathIdentity(absolute);
-    for (Document* const document : _documents) {
-        if (!document->Path().empty() && DocumentPathIdentity(document->Path()) == identity) {
-            return document;
+    Document* const document = FindKnown(absolute);
+    return document != nullptr ? document : FindKnown(DocumentPathIdentity(absolute));
+}
+
+Document* DocumentSession::FindKnown(const std::string& name) const
+{
+    const auto known = _byPath.find(name);
+    return known == _byPath.end() ? nullptr : known->second;
+}
+
+void DocumentSession::Remember(Document& document)
+{
+    // A path comes before an identity: the one asked for under its own path is meant.
+    _byPath.insert_or_assign(document.Path(), &document);
+    _byPath.try_emplace(document.PathIdentity(), &document);
+}
+
+void DocumentSession::Forget(const Document& document)
+{
+    for (const std::string* const name : {&document.Path(), &document.PathIdentity()}) {
+        if (FindKnown(*name) == &document) {
+            _byPath.erase(*name);
         }
     }
-    return nullptr;
+}
+
+HRESULT DocumentSession::Load(const std::string& absolutePath, bool readOnly, Document*& document,
+                              std::string& error)
+{
+    DocumentHolder loaded = LoadDocument(absolutePath, error);
+    if (loaded == nullptr) {
+        return E_FAIL;
+    }
+    loaded->SetReadOnly(readOnly);
+    _documents.push_back(loaded.get());
+    document = loaded.release();
+    Remember(*document);
+    return S_OK;
 }
 
 HRESULT DocumentSession::Open(std::string_view path, bool readOnly, Document*& document,
@@ -89,15 +120,10 @@ HRESULT DocumentSession::Open(std::string_view path, bool readOnly, Document*& d
     if (Document* const open = Find(absolute)) {
         open->SetReadOnly(open->IsReadOnly() && readOnly);
         document = open;
-        return S_OK;
+    } else if (const HRESULT result = Load(absolute, readOnly, document, error); FAILED(result)) {
+        return result;
     }
-    DocumentHolder loaded = LoadDocument(absolute, error);
-    if (loaded == nullptr) {
-        return E_FAIL;
-    }
-    loaded->SetReadOnly(readOnly);
-    _documents.push_back(loaded.get());
-    document = loaded.release();
+    document->SetOfProgram(true);
     return S_OK;
 }
 
@@ -105,7 +131,10 @@ Document* DocumentSession::OpenLinked(std::string_view path, std::string& error)
 {
     Document* document = Find(path);
     if (document == nullptr) {
-        Open(path, false, document, error);
+        const std::string absolute = AbsoluteDocumentPath(path, error);
+        if (!absolute.empty()) {
+            Load(absolute, false, document, error);
+        }
     }
     return document;
 }
@@ -125,6 +154,7 @@ HRESULT DocumentSession::New(std::string_view type, Document*& document, std::st
     }
     _documents.push_back(Make(*known).release());
     document = _documents.back();
+    document->SetOfProgram(true);
     return S_OK;
 }
 
@@ -171,7 +201,9 @@ HRESULT DocumentSession::SaveAs(Document& document, std::string_view path, std::
     if (!SaveDocument(document, absolute, error)) {
         return E_FAIL;
     }
+    Forget(document);
     document.SetPath(absolute);
+    Remember(document);
     document.SetReadOnly(false);
     return S_OK;
 }
@@ -188,6 +220,7 @@ HRESULT DocumentSession::Remove(Document& document, bool force, std::string& err
         return std::ranges::find(removal.going, open) != removal.going.end();
     });
     for (Document* const going : removal.going) {
+        Forget(*going);
         going->Close();
         going->KeepByHost(false);
         going->Release();

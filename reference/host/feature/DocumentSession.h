@@ -8,6 +8,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace vex {
@@ -25,13 +26,14 @@ public:
     /// A new document with its structure that is in no session.
     static DocumentHolder Make(DocumentType type);
 
-    /// The open document stored under `path`, opened when it is not open yet. A document opened
-    /// read-only may be saved once it was asked for again without that.
+    /// The open document stored under `path`, opened when it is not open yet; it is the program's
+    /// from then on. A document opened read-only may be saved once it was asked for again without
+    /// that.
     /// @return S_OK; E_INVALIDARG for an impossible path; E_FAIL
     HRESULT Open(std::string_view path, bool readOnly, Document*& document, std::string& error);
 
-    /// As Open, for the target of a link: a document that is open stays read-only if it was. Null
-    /// with the reason in `error`.
+    /// As Open, for the target of a link: a document that is open stays read-only if it was, and
+    /// one that is not is opened for the link's sake only. Null with the reason in `error`.
     Document* OpenLinked(std::string_view path, std::string& error);
 
     /// @param type  as Document::TypeFromText  @return S_OK; E_INVALIDARG when there is no such
@@ -48,8 +50,8 @@ public:
     HRESULT SaveAs(Document& document, std::string_view path, std::string_view type,
                    bool replaceExisting, std::string& error);
 
-    /// Closes the document and those that only it linked to. @return S_OK; E_FAIL when another open
-    /// document links to it and it is not forced
+    /// Closes the document and those that are open only because it links to them.
+    /// @return S_OK; E_FAIL when a document that stays links to it and it is not forced
     HRESULT Remove(Document& document, bool force, std::string& error);
 
     /// The open document stored under that path, whatever way the path is written; null when there
@@ -63,7 +65,15 @@ public:
 private:
     DocumentSession() = default;
 
+    HRESULT Load(const std::string& absolutePath, bool readOnly, Document*& document,
+                 std::string& error);
+    Document* FindKnown(const std::string& name) const;
+    void Remember(Document& document);
+    void Forget(const Document& document);
+
     std::vector<Document*> _documents;
+    /// The open, stored documents by their paths and by the identities of those.
+    std::unordered_map<std::string, Document*> _byPath;
 };
 
 }  // namespace vex

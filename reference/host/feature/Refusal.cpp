@@ -3,14 +3,17 @@
 #include "host/feature/Refusal.h"
 
 #include <cstdio>
-#include <string>
 
 namespace vex {
 
-HRESULT Refuse(HRESULT result, std::string_view reason)
+void Tell(std::string_view line) noexcept
 {
-    const std::string line = "vex: " + std::string(reason) + '\n';
-    std::fwrite(line.data(), 1, line.size(), stderr);
+    std::fprintf(stderr, "vex: %.*s\n", static_cast<int>(line.size()), line.data());
+}
+
+HRESULT Refuse(HRESULT result, std::string_view reason) noexcept
+{
+    Tell(reason);
     return result;
 }
 

@@ -3,12 +3,11 @@
 // version.
 #include "host/product/KernelModule.h"
 
+#include "host/component/LibraryFile.h"
 #include "host/product/GeometryKernel.h"
 #include "host/system/MessageTexts.h"
 
 #include <dlfcn.h>
-
-#include <filesystem>
 
 namespace vex {
 namespace {
@@ -18,44 +17,15 @@ std::string Refusal(const std::string& file, const std::string& reason, const st
     return system::Quoted(file) + ": " + reason + ": " + remedy;
 }
 
-std::string FindFile(const std::vector<std::string>& directories, const std::string& fileName)
-{
-    for (const std::string& directory : directories) {
-        const std::filesystem::path candidate = std::filesystem::path(directory) / fileName;
-        std::error_code ignored;
-        if (std::filesystem::exists(candidate, ignored)) {
-            // A name without a slash would send dlopen along the system's own search path.
-            return std::filesystem::absolute(candidate, ignored).string();
-        }
-    }
-    return {};
-}
-
-std::string LastLoaderError()
-{
-    const char* text = dlerror();
-    return text == nullptr ? "unknown error" : text;
-}
-
 }  // namespace
 
 void* OpenKernelModule(const std::vector<std::string>& directories, const std::string& fileName,
                        const char* version, const char* entry, std::string& error)
 {
-    const std::string file = FindFile(directories, fileName);
-    if (file.empty()) {
-        std::string searched;
-        for (const std::string& directory : directories) {
-            searched += (searched.empty() ? "" : ", ") + system::Quoted(directory);
-        }
-        error = Refusal(fileName, "not found in " + (searched.empty() ? "any directory" : searched),
-                        "build or install it there");
-        return nullptr;
-    }
-    void* library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
+    std::string file;
+    void* const library =
+        OpenLibraryFile(directories, fileName, "Build or install it there.", file, error);
     if (library == nullptr) {
-        error = Refusal(file, "cannot be opened (" + LastLoaderError() + ")",
-                        "install what it needs, or build it again");
         return nullptr;
     }
     using VersionFunction = unsigned (*)();

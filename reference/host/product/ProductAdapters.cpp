@@ -55,11 +55,12 @@ VEXDocument* LinkableObjectAdapter::GetDocument() const
 
 namespace {
 
-constexpr VEXInterfaceRow productNodeRows[] = {InterfaceRow<ProductAdapter>(),
-                                               InterfaceRow<ProductDescendantsAdapter>(),
-                                               InterfaceRow<LinkableObjectAdapter>()};
+constexpr VEXInterfaceRow productNodeRows[] = {
+    InterfaceRow<ProductAdapter>(), InterfaceRow<ProductDescendantsAdapter>(),
+    InterfaceRow<LinkableObjectAdapter>(), InterfaceRow<NavigateAdapter>()};
 constexpr VEXInterfaceRow partRows[] = {InterfaceRow<LinkableObjectAdapter>(),
-                                        InterfaceRow<DescendantsAdapter>()};
+                                        InterfaceRow<DescendantsAdapter>(),
+                                        InterfaceRow<NavigateAdapter>()};
 
 }  // namespace
 

@@ -27,6 +27,19 @@ std::string StorableName(const std::string& name)
     return text::IsValid(name) ? name : system::Printable(name);
 }
 
+/// Nothing is stored there: what is there is not replaced, and not removed after a failure.
+bool IsFree(const std::string& path, std::string& error)
+{
+    std::error_code code;
+    const auto there = std::filesystem::symlink_status(path, code);
+    if (DocumentSession::Instance().Find(path) == nullptr && !std::filesystem::exists(there)) {
+        return true;
+    }
+    error = Quoted(path) +
+            ": there is such a document already. Remove it, or import into another folder.";
+    return false;
+}
+
 class StepImport
 {
 public:
@@ -88,11 +101,7 @@ bool StepImport::NameDocuments(const std::string& folder, std::string_view baseN
         if (path.empty()) {
             return false;
         }
-        std::error_code code;
-        if (DocumentSession::Instance().Find(path) != nullptr ||
-            std::filesystem::exists(std::filesystem::symlink_status(path, code))) {
-            error = Quoted(path) +
-                    ": there is such a document already. Remove it, or import into another folder.";
+        if (!IsFree(path, error)) {
             return false;
         }
         _productPaths.push_back(path);
@@ -109,11 +118,12 @@ bool StepImport::StoreDocument(Document& document, const std::string& path, std:
     if (_progress) {
         _progress(_stored.size(), _total, std::filesystem::path(path).filename().string());
     }
-    if (!SaveDocument(document, path, error)) {
+    if (!IsFree(path, error)) {
         return false;
     }
+    // Before it is stored: a save that fails at its very end leaves a file.
     _stored.push_back(path);
-    return true;
+    return SaveDocument(document, path, error);
 }
 
 bool StepImport::StorePart(std::size_t part, std::string& error)

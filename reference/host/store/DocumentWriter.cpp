@@ -55,6 +55,11 @@ bool DocumentWriter::Begin(std::string_view path, DocumentKind kind, int dataVer
     _attributeNames.clear();
     std::string reason;
     if (dataVersion < 1) return Refuse(fmt::format("there is no data version {}", dataVersion));
+    if (dataVersion > kDataVersion) {
+        return Refuse(
+            fmt::format("its data version {} is newer than {}, the newest that can be read again",
+                        dataVersion, kDataVersion));
+    }
     if (!_file.Begin(path, reason)) return End(std::move(reason));
     return Prepare(reason) || FailWriting(reason);
 }

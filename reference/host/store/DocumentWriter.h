@@ -34,7 +34,8 @@ public:
     DocumentWriter& operator=(const DocumentWriter&) = delete;
 
     /// Begins the save of a document of `kind` to `path`; its folder must exist. A save begun
-    /// before is given up. `dataVersion` is at least 1.
+    /// before is given up. `dataVersion` is at least 1 and at most kDataVersion: what
+    /// is saved can be opened.
     bool Begin(std::string_view path, DocumentKind kind, int dataVersion = kDataVersion);
 
     /// The index of a late type's name, the same one for the same name; none after a failure.

@@ -53,20 +53,21 @@ bool AtomicFile::Fail(std::string_view step, int code, std::string& error)
     return false;
 }
 
-// The file that a save to `path` replaces: `path` itself, or where its symbolic link leads.
-bool AtomicFile::ResolveTarget(std::string_view path, std::string& error)
+bool AtomicFile::ResolveTarget(std::string_view path, std::string& target, std::string& error)
 {
     if (!CheckPath(path, error)) return false;
-    _target = path;
+    target = path;
     struct stat status = {};
-    if (::lstat(_target.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return true;
-    char* resolved = ::realpath(_target.c_str(), nullptr);
+    if (::lstat(target.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return true;
+    char* resolved = ::realpath(target.c_str(), nullptr);
     if (resolved == nullptr) {
-        return Fail("the file is a symbolic link that cannot be followed", errno, error);
+        error = Failure(target, "the file is a symbolic link that cannot be followed",
+                        SystemReason(errno));
+        return false;
     }
-    _target = resolved;
+    target = resolved;
     std::free(resolved);
-    return CheckPath(_target, error);
+    return CheckPath(target, error);
 }
 
 bool AtomicFile::CreateBeside(unsigned mode, std::string& error)
@@ -88,7 +89,7 @@ bool AtomicFile::CreateBeside(unsigned mode, std::string& error)
 bool AtomicFile::Begin(std::string_view path, std::string& error)
 {
     Discard();
-    if (!ResolveTarget(path, error)) return false;
+    if (!ResolveTarget(path, _target, error)) return false;
     struct stat old = {};
     const bool exists = ::stat(_target.c_str(), &old) == 0;
     if (exists && !S_ISREG(old.st_mode)) {

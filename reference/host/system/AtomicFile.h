@@ -42,12 +42,15 @@ public:
     /// Gives up: removes the new file. Does nothing when none is begun.
     void Discard();
 
+    /// The file that a replacement of `path` replaces, in `target`: `path` itself, or where its
+    /// symbolic link leads. On failure `error` gets the message.
+    static bool ResolveTarget(std::string_view path, std::string& target, std::string& error);
+
     /// The message for a save of `path` that failed in `step` before anything was replaced.
     static std::string Failure(std::string_view path, std::string_view step,
                                std::string_view reason);
 
 private:
-    bool ResolveTarget(std::string_view path, std::string& error);
     bool CreateBeside(unsigned mode, std::string& error);
     bool Fail(std::string_view step, int code, std::string& error);
 

@@ -2,6 +2,7 @@
 // The settings repository over its file.
 #include "host/system/SettingsStore.h"
 
+#include "host/system/AtomicFile.h"
 #include "host/system/FolderLock.h"
 #include "host/system/MessageTexts.h"
 #include "host/system/Path.h"
@@ -81,13 +82,17 @@ bool SettingsStore::Commit(std::string& error)
         return false;
     }
     // Between reading and replacing the file nobody else may replace it: his settings would be
-    // lost.
+    // lost. The file is the one that a symbolic link leads to, however each of them comes to it.
     FolderLock lock;
     Settings settings;
-    if (!lock.Take(folder, error) || !ReadSettings(_path, settings, error)) return false;
+    std::string target;
+    if (!AtomicFile::ResolveTarget(_path, target, error) || !lock.Take(FolderOf(target), error) ||
+        !ReadSettings(target, settings, error)) {
+        return false;
+    }
     for (const auto& [key, value] : _changes)
         settings.insert_or_assign(key, value);
-    if (!WriteSettings(_path, settings, error)) return false;
+    if (!WriteSettings(target, settings, error)) return false;
     _settings = std::move(settings);
     _changes.clear();
     return true;

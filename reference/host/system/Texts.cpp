@@ -10,7 +10,8 @@ namespace {
 
 constexpr char hexDigits[] = "0123456789abcdef";
 
-/// Length of the well-formed sequence at the start of `text`, and its code point; 0 when there is none.
+/// Length of the well-formed sequence at the start of `text`, and its code point; 0 when there is
+/// none.
 std::size_t Decode(std::string_view text, char32_t& point)
 {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
@@ -45,8 +46,8 @@ bool IsControl(char32_t point)
 void AppendCodePoint(std::string& out, char32_t point)
 {
     char digits[8];
-    const auto end = std::to_chars(digits, digits + sizeof digits,
-                                   static_cast<std::uint32_t>(point), 16).ptr;
+    const auto end =
+        std::to_chars(digits, digits + sizeof digits, static_cast<std::uint32_t>(point), 16).ptr;
     out += "\\u{";
     out.append(digits, end);
     out += '}';

@@ -39,6 +39,17 @@ void Record(int status, const char* source, int line)
     records.push_back({status, source == nullptr ? "" : source, line});
 }
 
+/// A result as an argument: its name.
+struct ResultArgument
+{
+    HRESULT result;
+};
+
+std::string TextOf(const ResultArgument& argument)
+{
+    return vex::probe::TextOfResult(argument.result);
+}
+
 }  // namespace
 
 HRESULT VEXError::GetReturn(int status, VEXBaseUnknown** error, const VEXBaseUnknown* object,
@@ -72,7 +83,7 @@ void VEXError::SetPending(HRESULT error)
                 StateOfThread().pending = error;
             }
         },
-        vex::In(vex::probe::TextOfResult(error)));
+        vex::In(ResultArgument{error}));
 }
 
 namespace vex::probe {

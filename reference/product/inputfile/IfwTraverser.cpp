@@ -4,6 +4,7 @@
 
 #include "HLXIZPKWBGeneralSettingAtt.h"
 #include "host/component/ComponentTypes.h"
+#include "host/feature/Refusal.h"
 #include "host/system/AtomicFile.h"
 #include "host/system/FileOperations.h"
 #include "host/system/MessageTexts.h"
@@ -12,7 +13,6 @@
 
 #include <fmt/format.h>
 
-#include <cstdio>
 #include <exception>
 #include <new>
 
@@ -24,8 +24,7 @@ using vex::Feature;
 
 HRESULT Refuse(HRESULT result, std::string_view reason)
 {
-    fmt::print(stderr, "HLXIIfwTraverser::WriteInputFile: {}\n", reason);
-    return result;
+    return vex::Refuse(result, fmt::format("HLXIIfwTraverser::WriteInputFile: {}", reason));
 }
 
 HRESULT CollectCases(const VEXListValVEXBaseUnknown_var& list, std::vector<Feature*>& cases)
@@ -127,10 +126,11 @@ HRESULT IfwTraverser::WriteInputFile(const VEXUnicodeString& path,
     try {
         return Write(path.View(), cases);
     } catch (const std::bad_alloc&) {
-        return Refuse(E_OUTOFMEMORY,
-                      "there is not enough memory for the text; nothing was written");
+        return vex::Refuse(E_OUTOFMEMORY,
+                           "HLXIIfwTraverser::WriteInputFile: there is not enough memory for the "
+                           "text; nothing was written");
     } catch (const std::exception& exception) {
-        return Refuse(E_FAIL, exception.what());
+        return vex::Refuse(E_FAIL, exception.what());
     }
 }
 

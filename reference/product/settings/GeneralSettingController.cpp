@@ -3,9 +3,8 @@
 #include "product/settings/GeneralSettingController.h"
 
 #include "VEXComponents.h"
+#include "host/feature/Refusal.h"
 #include "host/system/Probe.h"
-
-#include <cstdio>
 
 namespace hlx {
 
@@ -40,7 +39,7 @@ VEXBaseUnknown* GeneralSettingController::Create(void*)
     std::string path = vex::system::SettingsStore::DefaultPath(error);
     auto settings = path.empty() ? nullptr : GeneralSettings::Load(std::move(path), error);
     if (settings == nullptr) {
-        std::fprintf(stderr, "hlx: general settings: %s\n", error.c_str());
+        vex::Tell("general settings: " + error);
         return nullptr;
     }
     return new GeneralSettingController(std::move(settings));
@@ -116,8 +115,7 @@ HRESULT SettingRepositoryAdapter::Commit()
     return Probe<"VEXIIniSettingManagment::Commit">([&]() -> HRESULT {
         std::string error;
         if (!Self().Settings().Commit(error)) {
-            std::fprintf(stderr, "hlx: general settings: %s\n", error.c_str());
-            return E_FAIL;
+            return vex::Refuse(E_FAIL, "general settings: " + error);
         }
         return S_OK;
     });

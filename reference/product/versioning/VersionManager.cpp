@@ -3,11 +3,12 @@
 // is where the next try starts.
 #include "HLXProductUtilities.h"
 #include "host/analysis/AnalysisObjects.h"
+#include "host/feature/Refusal.h"
 #include "host/system/Probe.h"
 #include "host/system/Texts.h"
 #include "product/versioning/VersionSteps.h"
 
-#include <cstdio>
+#include <fmt/format.h>
 
 namespace {
 
@@ -26,21 +27,20 @@ HRESULT Upgrade(vex::Document& document, bool tell)
         const unsigned from = document.DataVersion();
         const hlx::VersionStep* const step = steps.Find(from);
         if (step == nullptr) {
-            std::fprintf(stderr,
-                         "hlx: document %s: nothing upgrades data version %u; open and store it "
-                         "with the release before this one\n",
-                         NameOf(document).c_str(), from);
-            return E_FAIL;
+            return vex::Refuse(
+                E_FAIL, fmt::format("document {}: nothing upgrades data version {}; open and store "
+                                    "it with the release before this one",
+                                    NameOf(document), from));
         }
         const HRESULT result = step->upgrade(document);
         if (FAILED(result)) {
-            std::fprintf(stderr, "hlx: document %s: upgrade from data version %u failed: %s\n",
-                         NameOf(document).c_str(), from, step->title);
-            return result;
+            return vex::Refuse(result,
+                               fmt::format("document {}: upgrade from data version {} failed: {}",
+                                           NameOf(document), from, step->title));
         }
         if (tell) {
-            std::fprintf(stderr, "hlx: document %s: data version %u to %u: %s\n",
-                         NameOf(document).c_str(), from, from + 1, step->title);
+            vex::Tell(fmt::format("document {}: data version {} to {}: {}", NameOf(document), from,
+                                  from + 1, step->title));
         }
         document.SetDataVersion(from + 1);
     }

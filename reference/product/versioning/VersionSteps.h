@@ -28,7 +28,8 @@ public:
     /// The step that starts from a version; null when there is none.
     const VersionStep* Find(unsigned from) const;
 
-    /// Adds a step. False when one from that version is there already.
+    /// Adds a step. False when one from that version is there already. Documents that a step brings
+    /// beyond vex::store::kDataVersion cannot be saved: that number rises with the list.
     bool Add(const VersionStep& step);
     void Remove(unsigned from);
 

@@ -91,9 +91,11 @@ TEST_F(Links, AreOpenedWhenAskedForAndMoveWithTheFolder)
 TEST_F(Links, ThatCannotBeOpenedAreNullAndTold)
 {
     const std::string path = folder.File("p.VEXProduct");
-    ASSERT_EQ(DocumentManager()->AddLink(Store("VEXProduct", path)), S_OK);
+    VEXDocument* const product = Store("VEXProduct", path);
+    ASSERT_EQ(DocumentManager()->AddLink(product), S_OK);
     document.SaveAs(folder.File("a.VEXAnalysis"));
     ASSERT_EQ(VEXDocumentServices::Remove(*document.Release(), 1), S_OK);
+    ASSERT_EQ(VEXDocumentServices::Remove(*product, 1), S_OK);
     std::filesystem::remove(path);
 
     ASSERT_EQ(VEXDocumentServices::OpenDocument(VEXUnicodeString(folder.File("a.VEXAnalysis")),

@@ -237,6 +237,19 @@ TEST_F(ComponentTest, AccountsTellWhatIsStillHeld)
     vex::probe::StopRecording();
 }
 
+TEST_F(ComponentTest, LettingGoByTheHostNotesNoHolderFromBeforeTheRecording)
+{
+    auto* const kept = new Named(Type());
+    kept->KeepByHost(true);
+    kept->AddRef();
+    vex::probe::StartRecording();
+    kept->KeepByHost(false);
+    kept->Release();
+    EXPECT_THAT(vex::probe::HeldObjects(), IsEmpty());
+    kept->Release();
+    vex::probe::StopRecording();
+}
+
 using ComponentDeathTest = ComponentTest;
 
 TEST_F(ComponentDeathTest, OneReleaseTooManyEndsTheProcess)

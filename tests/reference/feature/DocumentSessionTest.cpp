@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <filesystem>
 
 namespace {
@@ -31,6 +32,26 @@ protected:
     {
         return session.Remove(document, force, error);
     }
+
+    /// Stores all open documents, closes them and opens these for their own sake, those for a
+    /// link's.
+    void Reopen(const std::vector<std::string>& own, const std::vector<std::string>& linked)
+    {
+        for (Document* const document : session.Documents()) {
+            ASSERT_EQ(session.Save(*document, error), S_OK) << error;
+        }
+        while (Count() > 0) {
+            ASSERT_EQ(Remove(*session.Documents().front(), true), S_OK) << error;
+        }
+        for (const std::string& name : own) {
+            Open(folder.File(name));
+        }
+        for (const std::string& name : linked) {
+            ASSERT_NE(session.OpenLinked(folder.File(name), error), nullptr) << error;
+        }
+    }
+
+    Document* Known(const std::string& name) const { return session.Find(folder.File(name)); }
 
     /// The number of documents that are open.
     std::size_t Count() const { return session.Documents().size(); }
@@ -144,38 +165,118 @@ TEST_F(DocumentSessionTest, ADocumentThatWasNeverStoredHasNowhereToBeSaved)
     EXPECT_THAT(error, HasSubstr("it has no path yet"));
 }
 
+TEST_F(DocumentSessionTest, ADocumentIsFoundUnderItsNewPathOnly)
+{
+    Document& document = StoreOpen(path);
+    const std::string moved = folder.File("moved.VEXPart");
+    hlxtest::WriteFile(moved, "");
+    std::filesystem::create_symlink(moved, folder.File("link.VEXPart"));
+    ASSERT_EQ(session.SaveAs(document, folder.File("link.VEXPart"), "", true, error), S_OK)
+        << error;
+    EXPECT_EQ(session.Find(path), nullptr);
+    EXPECT_EQ(Known("link.VEXPart"), &document);
+    EXPECT_EQ(Known("moved.VEXPart"), &document);
+    Document& other = Open(path);
+    EXPECT_NE(&other, &document);
+    EXPECT_EQ(Remove(document), S_OK) << error;
+    EXPECT_EQ(Known("link.VEXPart"), nullptr);
+    EXPECT_EQ(Known("moved.VEXPart"), nullptr);
+    EXPECT_EQ(session.Find(path), &other);
+}
+
+TEST_F(DocumentSessionTest, MissesDoNotSlowDownWithTheDocumentsThatAreOpen)
+{
+    StoreOpen(path);
+    const auto timeOfMisses = [&] {
+        const auto start = std::chrono::steady_clock::now();
+        for (int i = 0; i < 2000; ++i) {
+            EXPECT_EQ(Known("none.VEXPart"), nullptr);
+        }
+        return std::chrono::steady_clock::now() - start;
+    };
+    const auto withOneOpen = timeOfMisses();
+    for (int i = 0; i < 300; ++i) {
+        const std::string copy = folder.File(std::to_string(i) + ".VEXPart");
+        std::filesystem::copy_file(path, copy);
+        Open(copy);
+    }
+    EXPECT_LT(timeOfMisses(), 20 * withOneOpen);
+}
+
 TEST_F(DocumentSessionTest, RemovingTakesThoseWithItThatOnlyItLinkedTo)
 {
-    Document& shared = StoreOpen(folder.File("shared.VEXPart"));
-    Document& own = StoreOpen(folder.File("own.VEXPart"));
-    Document& below = StoreOpen(folder.File("below.VEXPart"));
+    StoreOpen(folder.File("shared.VEXPart"));
+    StoreOpen(folder.File("own.VEXPart"));
+    StoreOpen(folder.File("below.VEXPart"));
     Document& user = StoreOpen(folder.File("user.VEXProduct"), DocumentType::Product);
     Document& other = StoreOpen(folder.File("other.VEXProduct"), DocumentType::Product);
-    Link(user, shared.Path());
-    Link(user, own.Path());
+    Link(user, folder.File("shared.VEXPart"));
+    Link(user, folder.File("own.VEXPart"));
     Link(user, folder.File("not-there.VEXPart"));
-    Link(own, below.Path());
-    Link(other, shared.Path());
+    Link(*Known("own.VEXPart"), folder.File("below.VEXPart"));
+    Link(other, folder.File("shared.VEXPart"));
+    Reopen({"user.VEXProduct", "other.VEXProduct"},
+           {"shared.VEXPart", "own.VEXPart", "below.VEXPart"});
 
-    EXPECT_EQ(Remove(shared), E_FAIL);
+    EXPECT_EQ(Remove(*Known("shared.VEXPart")), E_FAIL);
     EXPECT_THAT(error, HasSubstr("links to it"));
     EXPECT_EQ(Count(), 5U);
-    EXPECT_EQ(Remove(user), S_OK) << error;
-    EXPECT_EQ(session.Documents(), (std::vector<Document*>{&shared, &other}));
-    EXPECT_EQ(Remove(shared, true), S_OK) << error;
-    EXPECT_EQ(session.Documents(), std::vector<Document*>{&other});
+    EXPECT_EQ(Remove(*Known("user.VEXProduct")), S_OK) << error;
+    EXPECT_EQ(session.Documents(),
+              (std::vector<Document*>{Known("other.VEXProduct"), Known("shared.VEXPart")}));
+    EXPECT_EQ(Remove(*Known("shared.VEXPart"), true), S_OK) << error;
+    EXPECT_EQ(session.Documents(), std::vector<Document*>{Known("other.VEXProduct")});
+}
+
+TEST_F(DocumentSessionTest, RemovingKeepsWhatTheProgramOpenedItself)
+{
+    Document& user = StoreOpen(folder.File("user.VEXProduct"), DocumentType::Product);
+    Document& middle = StoreOpen(folder.File("middle.VEXPart"));
+    StoreOpen(folder.File("below.VEXPart"));
+    StoreOpen(folder.File("made.VEXPart"));
+    Link(user, middle.Path());
+    Link(user, folder.File("made.VEXPart"));
+    Link(middle, folder.File("below.VEXPart"));
+    Reopen({"user.VEXProduct"}, {"middle.VEXPart", "below.VEXPart", "made.VEXPart"});
+    // A document that a link opened first is the program's once the program asks for it.
+    Add(*Open(folder.File("middle.VEXPart")).SpecContainer(), "TestThing", "unsaved");
+
+    EXPECT_EQ(Remove(*Known("user.VEXProduct")), S_OK) << error;
+    EXPECT_EQ(session.Documents(),
+              (std::vector<Document*>{Known("middle.VEXPart"), Known("below.VEXPart")}));
+    EXPECT_EQ(Remove(*Known("middle.VEXPart")), S_OK) << error;
+    EXPECT_EQ(Count(), 0U);
 }
 
 TEST_F(DocumentSessionTest, DocumentsThatLinkInACircleGoTogether)
 {
     Document& a = StoreOpen(path);
     Document& b = StoreOpen(folder.File("b.VEXPart"));
-    Document& bystander = StoreOpen(folder.File("c.VEXPart"));
+    StoreOpen(folder.File("c.VEXPart"));
     Link(a, b.Path());
     Link(b, a.Path());
     Link(b, b.Path());
-    EXPECT_EQ(Remove(a), S_OK) << error;
-    EXPECT_EQ(session.Documents(), std::vector<Document*>{&bystander});
+    EXPECT_EQ(Remove(a), E_FAIL) << "b is the program's: it stays and links to a";
+    Reopen({"a.VEXPart", "c.VEXPart"}, {"b.VEXPart"});
+    EXPECT_EQ(Remove(*Known("a.VEXPart")), S_OK) << error;
+    EXPECT_EQ(session.Documents(), std::vector<Document*>{Known("c.VEXPart")});
+}
+
+TEST_F(DocumentSessionTest, ADocumentOfACircleThatAnotherOneNeedsKeepsItsPartner)
+{
+    Document& a = StoreOpen(path);
+    Document& b = StoreOpen(folder.File("b.VEXPart"));
+    Document& x = StoreOpen(folder.File("x.VEXProduct"), DocumentType::Product);
+    Link(a, b.Path());
+    Link(b, a.Path());
+    Link(x, b.Path());
+    Reopen({"a.VEXPart", "x.VEXProduct"}, {"b.VEXPart"});
+    EXPECT_EQ(Remove(*Known("a.VEXPart")), E_FAIL);
+    EXPECT_THAT(error, HasSubstr("b.VEXPart' links to it"));
+    EXPECT_EQ(Count(), 3U);
+    EXPECT_EQ(Remove(*Known("a.VEXPart"), true), S_OK) << error;
+    EXPECT_EQ(session.Documents(),
+              (std::vector<Document*>{Known("x.VEXProduct"), Known("b.VEXPart")}));
 }
 
 TEST_F(DocumentSessionTest, ForcedRemovalKeepsWhatOthersReachOtherwise)

@@ -130,6 +130,24 @@ TEST_F(ProductStructureTest, DocumentsThatUseEachOtherEnd)
     EXPECT_EQ(Aliases(list), "bolt 1, bolt, bolt 2, sub 1, sub top, sub sub, ");
 }
 
+TEST_F(ProductStructureTest, RootsCanBeShownAsTrees)
+{
+    const VEXINavigateObject_var top = OpenTop();
+    ASSERT_TRUE(top);
+    const std::unique_ptr<VEXListValVEXBaseUnknown_var> below(top->GetChildren());
+    ASSERT_EQ(below->Size(), 3);
+    EXPECT_EQ(VEXIAlias_var((*below)[3])->GetAlias(), "sub 1");
+    EXPECT_TRUE(VEXINavigateObject_var((*below)[3]));
+
+    const VEXIDocRoots_var part = VEXShare(Open(folder.File("bolt.VEXPart")).AsVEXDocument());
+    const std::unique_ptr<VEXListValVEXBaseUnknown_var> roots(part->GetRoots());
+    ASSERT_EQ(roots->Size(), 1);
+    const VEXINavigateObject_var bolt = (*roots)[1];
+    ASSERT_TRUE(bolt);
+    const std::unique_ptr<VEXListValVEXBaseUnknown_var> none(bolt->GetChildren());
+    EXPECT_EQ(none->Size(), 0);
+}
+
 TEST_F(ProductStructureTest, AMissingDocumentIsAFailureWithAReason)
 {
     Store(DocumentType::Product, "top.VEXProduct",

@@ -5,10 +5,12 @@
 #include "TestDocument.h"
 #include "host/product/PartGeometry.h"
 #include "host/product/ProductStructure.h"
+#include "host/system/FileOperations.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 
+#include <cerrno>
 #include <filesystem>
 
 namespace {
@@ -129,6 +131,30 @@ TEST_F(StepImportTest, AFailureOnTheWayLeavesNoDocuments)
                             }));
     EXPECT_THAT(error, HasSubstr("demo.VEXProduct"));
     EXPECT_THAT(folder.Names(), ElementsAre("demo.VEXProduct"));
+}
+
+TEST_F(StepImportTest, ASaveThatFailsAtItsVeryEndLeavesNoDocumentEither)
+{
+    const system::FileOperations kept = system::CurrentFileOperations();
+    system::CurrentFileOperations().synchronizeFolder = [](int) { return -EIO; };
+    const bool imported = Import(assemblyFile, "demo");
+    system::CurrentFileOperations() = kept;
+    EXPECT_FALSE(imported);
+    EXPECT_THAT(error, HasSubstr("putting its new name on the disk failed"));
+    EXPECT_TRUE(folder.Names().empty());
+}
+
+TEST_F(StepImportTest, AFileThatTakesADocumentsNameOnTheWayIsNeitherReplacedNorRemoved)
+{
+    EXPECT_FALSE(ImportStep(assemblyFile, folder.Path(), "demo", rootPath, error,
+                            [&](std::size_t done, std::size_t total, const std::string& name) {
+                                if (done + 1 == total) {
+                                    hlxtest::WriteFile(folder.File(name), "mine");
+                                }
+                            }));
+    EXPECT_THAT(error, HasSubstr("demo.VEXProduct': there is such a document already"));
+    EXPECT_THAT(folder.Names(), ElementsAre("demo.VEXProduct"));
+    EXPECT_EQ(hlxtest::ReadFile(folder.File("demo.VEXProduct")), "mine");
 }
 
 TEST_F(StepImportTest, BadInputIsRefusedByName)

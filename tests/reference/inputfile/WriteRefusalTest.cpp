@@ -8,6 +8,9 @@
 #include <cstdlib>
 #include <fstream>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace {
 
 class InputFileRefusal : public hlxtest::InputFileTest
@@ -28,16 +31,35 @@ protected:
 
 TEST_F(InputFileRefusal, AnEmptyList)
 {
-    EXPECT_EQ(Refused({}, E_INVALIDARG),
-              "HLXIIfwTraverser::WriteInputFile: the list of analysis cases is empty; nothing was "
-              "written\n");
+    EXPECT_EQ(
+        Refused({}, E_INVALIDARG),
+        "vex: HLXIIfwTraverser::WriteInputFile: the list of analysis cases is empty; nothing was "
+        "written\n");
+}
+
+TEST_F(InputFileRefusal, IsAnsweredAlsoWhereNobodyListens)
+{
+    const HLXIIfwTraverser_var traverser = VEXShare(
+        VEXCreateExternalObject("HLXIfwTraverser", nullptr, "HLXIfwExportTraverser", nullptr));
+    ASSERT_TRUE(traverser);
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        ::close(STDERR_FILENO);
+        VEXListValVEXBaseUnknown_var none;
+        ::_exit(traverser->WriteInputFile(VEXUnicodeString(path), none) == E_INVALIDARG ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
 }
 
 TEST_F(InputFileRefusal, AnEmptyEntry)
 {
-    EXPECT_EQ(Refused({Entry(1), nullptr}, E_INVALIDARG),
-              "HLXIIfwTraverser::WriteInputFile: entry 2 of the list is empty: give analysis cases "
-              "only; nothing was written\n");
+    EXPECT_EQ(
+        Refused({Entry(1), nullptr}, E_INVALIDARG),
+        "vex: HLXIIfwTraverser::WriteInputFile: entry 2 of the list is empty: give analysis cases "
+        "only; nothing was written\n");
 }
 
 TEST_F(InputFileRefusal, AnEntryThatIsNoCase)
@@ -45,9 +67,10 @@ TEST_F(InputFileRefusal, AnEntryThatIsNoCase)
     const VEXBaseUnknown_var model = VEXShare(static_cast<VEXBaseUnknown*>(&Model()));
     const VEXBaseUnknown_var bare = VEXAdopt(new VEXBaseUnknown);
     for (const VEXBaseUnknown_var& entry : {model, bare}) {
-        EXPECT_EQ(Refused({entry}, E_INVALIDARG),
-                  "HLXIIfwTraverser::WriteInputFile: entry 1 of the list is no analysis case: give "
-                  "analysis cases only; nothing was written\n");
+        EXPECT_EQ(
+            Refused({entry}, E_INVALIDARG),
+            "vex: HLXIIfwTraverser::WriteInputFile: entry 1 of the list is no analysis case: give "
+            "analysis cases only; nothing was written\n");
     }
 }
 
@@ -56,10 +79,11 @@ TEST_F(InputFileRefusal, ACaseOfAnotherModel)
     hlxtest::AnalysisDocument other(1);
     VEXListValVEXBaseUnknown_var cases;
     ASSERT_EQ(HLXAnalysisDocUtils::GetAllAnalysisCases(cases, other.Get()), S_OK);
-    EXPECT_EQ(Refused({Entry(1), cases[1]}, E_INVALIDARG),
-              "HLXIIfwTraverser::WriteInputFile: entry 2 of the list is a case of another analysis "
-              "model than those before it: write an input file for each model; nothing was "
-              "written\n");
+    EXPECT_EQ(
+        Refused({Entry(1), cases[1]}, E_INVALIDARG),
+        "vex: HLXIIfwTraverser::WriteInputFile: entry 2 of the list is a case of another analysis "
+        "model than those before it: write an input file for each model; nothing was "
+        "written\n");
 }
 
 TEST_F(InputFileRefusal, ACaseWhoseDocumentIsGone)
@@ -68,7 +92,7 @@ TEST_F(InputFileRefusal, ACaseWhoseDocumentIsGone)
     ASSERT_EQ(VEXDocumentServices::Remove(*document.Release(), 1), S_OK);
     EXPECT_EQ(
         Refused({entry}, E_FAIL),
-        "HLXIIfwTraverser::WriteInputFile: entry 1 of the list is an analysis case that was "
+        "vex: HLXIIfwTraverser::WriteInputFile: entry 1 of the list is an analysis case that was "
         "deleted or whose document was removed: open the document again and get the case from "
         "it; nothing was written\n");
 }
@@ -79,7 +103,7 @@ TEST_F(InputFileRefusal, APathThatIsNone)
                                  std::string("a\0b", 3), folder.File(std::string(248, 'n'))};
     for (const std::string& none : paths) {
         EXPECT_EQ(Write(none, {Entry(1)}), E_INVALIDARG) << none;
-        EXPECT_TRUE(said.starts_with("HLXIIfwTraverser::WriteInputFile: '")) << said;
+        EXPECT_TRUE(said.starts_with("vex: HLXIIfwTraverser::WriteInputFile: '")) << said;
     }
     EXPECT_TRUE(folder.Names().empty());
 }
@@ -128,9 +152,10 @@ TEST(InputFileRefusalDeathTest, SettingsThatCannotBeRead)
         const HRESULT result = traverser->WriteInputFile(VEXUnicodeString(path), cases);
         return result == E_FAIL && !hlxtest::FileExists(path) ? 7 : 1;
     };
-    EXPECT_EXIT(std::exit(writeWithDamagedSettings()), testing::ExitedWithCode(7),
-                "HLXIIfwTraverser::WriteInputFile: the general settings do not say whether input "
-                "files are written flat; correct or remove the settings file. Nothing was written");
+    EXPECT_EXIT(
+        std::exit(writeWithDamagedSettings()), testing::ExitedWithCode(7),
+        "vex: HLXIIfwTraverser::WriteInputFile: the general settings do not say whether input "
+        "files are written flat; correct or remove the settings file. Nothing was written");
 }
 
 TEST_F(InputFileRefusal, AFaultOfTheOperationWritesNothing)

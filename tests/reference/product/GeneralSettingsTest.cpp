@@ -230,7 +230,7 @@ TEST_F(SettingsFile, IsRefusedWhenDamagedAndTheControllerSaysWhy)
     setenv("VEX_SETTINGS", own.c_str(), 1);
     EXPECT_EQ(controller, nullptr);
     EXPECT_EQ(captured.out, "");
-    EXPECT_EQ(captured.err, "hlx: general settings: " + error + "\n");
+    EXPECT_EQ(captured.err, "vex: general settings: " + error + "\n");
     EXPECT_EQ(hlxtest::ReadFile(path), "not a repository");
 }
 

@@ -92,13 +92,27 @@ TEST_F(Versioning, RunsTheStepsInOrderAndOnce)
     const ScopedStep two({2, "adds two", MarkTwo});
     const ScopedStep one({1, "adds one", MarkOne});
     StoreAndOpen();
-    EXPECT_EQ(Handle(1), Outcome(S_OK, "hlx: document \"" + path +
-                                           "\": data version 1 to 2: adds one\nhlx: document \"" +
+    EXPECT_EQ(Handle(1), Outcome(S_OK, "vex: document \"" + path +
+                                           "\": data version 1 to 2: adds one\nvex: document \"" +
                                            path + "\": data version 2 to 3: adds two\n"));
     EXPECT_EQ(ModelName(), "Finite Element Model.1+1+2");
     EXPECT_EQ(Version(), 3U);
     EXPECT_EQ(Handle(1), Outcome(S_OK, ""));
     EXPECT_EQ(ModelName(), "Finite Element Model.1+1+2");
+}
+
+TEST_F(Versioning, WhatCouldNotBeOpenedAgainIsNotSaved)
+{
+    const ScopedStep one({1, "adds one", MarkOne});
+    StoreAndOpen();
+    const std::string before = hlxtest::ReadFile(path);
+    EXPECT_EQ(Handle(0), Outcome(S_OK, ""));
+    const hlxtest::Captured captured =
+        hlxtest::Capture([&] { EXPECT_EQ(VEXDocumentServices::Save(*document.Get()), E_FAIL); });
+    EXPECT_NE(captured.err.find(path), std::string::npos) << captured.err;
+    EXPECT_NE(captured.err.find("its data version 2 is newer than 1"), std::string::npos)
+        << captured.err;
+    EXPECT_EQ(hlxtest::ReadFile(path), before);
 }
 
 TEST_F(Versioning, IsQuietInModeZero)
@@ -115,7 +129,7 @@ TEST_F(Versioning, StopsAtAFailingStepAndGoesOnThere)
     StoreAndOpen();
     {
         const ScopedStep failing({2, "cannot", Fail});
-        EXPECT_EQ(Handle(0), Outcome(E_ACCESSDENIED, "hlx: document \"" + path +
+        EXPECT_EQ(Handle(0), Outcome(E_ACCESSDENIED, "vex: document \"" + path +
                                                          "\": upgrade from data version 2 failed: "
                                                          "cannot\n"));
     }
@@ -130,7 +144,7 @@ TEST_F(Versioning, SaysWhenAStepIsMissing)
     const ScopedStep two({2, "adds two", MarkTwo});
     StoreAndOpen();
     EXPECT_EQ(Handle(0),
-              Outcome(E_FAIL, "hlx: document \"" + path +
+              Outcome(E_FAIL, "vex: document \"" + path +
                                   "\": nothing upgrades data version 1; open and store it with the "
                                   "release before this one\n"));
     EXPECT_EQ(Version(), 1U);

@@ -63,11 +63,19 @@ TEST(HlxProgram, MakesTheDocumentsOfASampleAndShowsThem)
 TEST(HlxProgram, ShowsTheTreeOfEveryKindOfDocument)
 {
     const SampleAnalysis sample(1);
-    for (const char* const name : {"sample.VEXAnalysis", "sample.VEXProduct", "Bolt.VEXPart"}) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"sample.VEXAnalysis",
+         "VEXSamAnalysisModel \"Finite Element Model.1\"\n"
+         "  HLXHacAnalysisCaseLT \"Analysis Case.1\"\n"},
+        {"sample.VEXProduct",
+         "VEXProductNode \"BracketAssembly\" PartNumber=\"BracketAssembly\"\n"
+         "  VEXProductNode \"Bracket.1\" PartNumber=\"Bracket\" "},
+        {"Bolt.VEXPart", "VEXPart \"Bolt\" Geometry=1\n"}};
+    for (const auto& [name, start] : rows) {
         const Ended tree = Hlx({"tree", sample.Input() + "/" + name});
         EXPECT_EQ(tree.code, 0) << name;
         EXPECT_EQ(tree.err, "") << name;
-        EXPECT_THAT(tree.out, Not(IsEmpty())) << name;
+        EXPECT_THAT(tree.out, StartsWith(start)) << name;
     }
 }
 
@@ -184,7 +192,7 @@ TEST(HlxProgram, NewRefusesWhatItCannotReadOrMustNotReplace)
     WriteFile(out, "mine");
     const Ended existing = Hlx({"new", out, "--from", kSampleStep});
     EXPECT_EQ(existing.code, 1);
-    EXPECT_THAT(existing.err, HasSubstr(out + " exists"));
+    EXPECT_THAT(existing.err, HasSubstr("'" + out + "' exists"));
     EXPECT_EQ(ReadFile(out), "mine");
     EXPECT_THAT(folder.Names(), ElementsAre("a.VEXAnalysis", "text.step"));
 }

@@ -157,11 +157,15 @@ TEST_F(DocumentRoundTrip, DataVersionIsHandedOut)
 {
     std::string error;
     Content content = SmallContent();
-    content.dataVersion = 3;
+    content.dataVersion = kDataVersion;
     ASSERT_TRUE(Save(content, In("a"), error)) << error;
-    EXPECT_TRUE(Load(In("a"), error, 3) == content);
-    EXPECT_TRUE(Load(In("a"), error, 4) == content);
-    EXPECT_FALSE(Load(In("a"), error, 2));
+    EXPECT_TRUE(Load(In("a"), error, kDataVersion) == content);
+    EXPECT_TRUE(Load(In("a"), error, kDataVersion + 1) == content);
+    EXPECT_FALSE(Load(In("a"), error, kDataVersion - 1));
+    content.dataVersion = kDataVersion + 1;
+    EXPECT_FALSE(Save(content, In("a"), error)) << "nobody could open it";
+    EXPECT_THAT(error, testing::HasSubstr("is newer than"));
+    EXPECT_TRUE(Load(In("a"), error));
     EXPECT_FALSE(Save(SmallContent(), In("c/d"), error)) << "its folder does not exist";
     content.dataVersion = 0;
     EXPECT_FALSE(Save(content, In("a"), error));

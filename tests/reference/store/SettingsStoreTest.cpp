@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // The settings repository.
 #include "host/system/SettingsStore.h"
+
+#include "host/system/Descriptor.h"
 #include "reference/store/StoreFixture.h"
 
 #include <fmt/format.h>
 
 #include <random>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -109,6 +113,32 @@ TEST_F(SettingsStoreTest, WhatOthersCommittedStays)
     ASSERT_TRUE(first.Load(error));
     EXPECT_EQ(first.Get("a"), "1");
     EXPECT_EQ(first.Get("b"), "2");
+}
+
+// The lock that a commit takes, as another process would hold it.
+Descriptor Locked(const std::string& folder)
+{
+    Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    EXPECT_EQ(::flock(opened.Number(), LOCK_EX | LOCK_NB), 0);
+    return opened;
+}
+
+TEST_F(SettingsStoreTest, TheFolderOfTheFileIsLockedNotThatOfALinkToIt)
+{
+    fs::create_directories(folder / "links");
+    fs::create_symlink(path, In("links/s.VEXSettings"));
+    SaveTwo();
+    SettingsStore store(In("links/s.VEXSettings"));
+    ASSERT_TRUE(store.Load(error) && store.Set("Length", "m", error)) << error;
+    {
+        const Descriptor ofLink = Locked(In("links"));
+        EXPECT_TRUE(store.Commit(error)) << error;
+    }
+    ASSERT_TRUE(store.Set("Length", "km", error)) << error;
+    const Descriptor ofFile = Locked(folder.string());
+    EXPECT_FALSE(store.Commit(error));
+    EXPECT_THAT(error, HasSubstr("keeps the folder locked"));
+    EXPECT_TRUE(fs::is_symlink(In("links/s.VEXSettings")));
 }
 
 TEST_F(SettingsStoreTest, SeveralProcessesAtOnce)

@@ -7,6 +7,9 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace hlxtest {
 namespace {
 
@@ -59,6 +62,23 @@ TEST_F(StepImport, KeepsTheStructureOfTheBracketAssembly)
         ASSERT_TRUE(product.partIndex);
         EXPECT_EQ(assembly.parts.at(*product.partIndex).name, product.name);
     }
+}
+
+TEST_F(StepImport, NeedsNoStandardStream)
+{
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+            ::close(stream);
+        }
+        ImportedAssembly assembly;
+        std::string error;
+        ::_exit(kernel->ReadStep(kSample, assembly, error) && assembly.parts.size() == 3 ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
 }
 
 TEST_F(StepImport, TheTwoBoltsAreOneProductAtTwoPlaces)

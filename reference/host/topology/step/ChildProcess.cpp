@@ -4,6 +4,8 @@
 // the result, 'E' an error; 'R' or 'E' is the last.
 #include "host/topology/step/ChildProcess.h"
 
+#include "host/system/Descriptor.h"
+
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/prctl.h>
@@ -18,6 +20,7 @@
 #include <cstring>
 #include <exception>
 #include <system_error>
+#include <utility>
 
 namespace vex::topology {
 namespace {
@@ -142,6 +145,22 @@ void Listen(int pipe, Clock::time_point deadline, ChildOutcome& outcome)
     }
 }
 
+// The end to read from and the one to write to. A standard stream that was closed is none of them:
+// the child gives those to others.
+std::pair<system::Descriptor, system::Descriptor> MakePipe()
+{
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0) {
+        throw std::system_error(errno, std::generic_category(), "no pipe");
+    }
+    system::Descriptor reading(system::Descriptor::AboveStandardStreams(ends[0]));
+    system::Descriptor writing(system::Descriptor::AboveStandardStreams(ends[1]));
+    if (!reading.IsOpen() || !writing.IsOpen()) {
+        throw std::system_error(errno, std::generic_category(), "no pipe");
+    }
+    return {std::move(reading), std::move(writing)};
+}
+
 std::string HowItEnded(int status)
 {
     if (WIFSIGNALED(status)) {
@@ -155,29 +174,25 @@ std::string HowItEnded(int status)
 ChildOutcome RunInChild(const ChildWork& work, int seconds)
 {
     const Clock::time_point deadline = Clock::now() + std::chrono::seconds(seconds);
-    int ends[2];
-    if (::pipe2(ends, O_CLOEXEC) != 0) {
-        throw std::system_error(errno, std::generic_category(), "no pipe");
-    }
+    auto [listening, speaking] = MakePipe();
     const pid_t child = ::fork();
     if (child == 0) {
-        ::close(ends[0]);
-        BeChild(ends[1], work);
+        listening.Close();
+        BeChild(speaking.Number(), work);
     }
     const int failure = errno;
-    ::close(ends[1]);
+    speaking.Close();
     if (child < 0) {
-        ::close(ends[0]);
         throw std::system_error(failure, std::generic_category(), "no child process");
     }
     ChildOutcome outcome;
     std::exception_ptr thrown;
     try {
-        Listen(ends[0], deadline, outcome);
+        Listen(listening.Number(), deadline, outcome);
     } catch (...) {
         thrown = std::current_exception();  // memory ran out: the child is ended all the same
     }
-    ::close(ends[0]);
+    listening.Close();
     ::kill(child, SIGKILL);
     int status = 0;
     while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
