@@ -3,8 +3,11 @@
 #include "Commands.h"
 #include "Messages.h"
 #include "host/system/MessageTexts.h"
+#include "host/system/SettingsStore.h"
 
+#include <cstdlib>
 #include <exception>
+#include <filesystem>
 
 namespace {
 
@@ -12,6 +15,18 @@ namespace {
 std::string WrongLine(const CLI::App*, const CLI::Error& error)
 {
     return vex::system::Printable(error.what()) + "\nRun with --help for more information.\n";
+}
+
+/// Unless the environment names a store: one of its own beside the user's, so that a program that
+/// runs meanwhile and this one never restore each other's options.
+void UseOwnSettings()
+{
+    const char* const given = std::getenv("VEX_SETTINGS");
+    std::string error;
+    const std::filesystem::path usual = vex::system::SettingsStore::DefaultPath(error);
+    if ((given == nullptr || *given == '\0') && !usual.empty()) {
+        setenv("VEX_SETTINGS", (usual.parent_path() / "hlx.VEXSettings").c_str(), 1);
+    }
 }
 
 int Run(int argc, char** argv)
@@ -23,8 +38,8 @@ int Run(int argc, char** argv)
     program.failure_message(WrongLine);
     program.footer(
         "exit codes: 0 done, 1 failed (reason on standard error), 2 wrong command line\n"
-        "environment: VEX_SETTINGS=FILE settings store, VEX_COMPONENT_PATH, VEX_CATALOG_PATH "
-        "search paths,\n"
+        "environment: VEX_SETTINGS=FILE settings store (else one of its own beside the user's),\n"
+        "             VEX_COMPONENT_PATH, VEX_CATALOG_PATH search paths,\n"
         "             VEX_TRACE, VEX_COUNTS, VEX_FAULTS see and break platform calls "
         "(docs/probes.md)");
     int exitCode = hlx::Done;
@@ -47,6 +62,7 @@ int main(int argc, char** argv)
 {
     int exitCode = hlx::Failed;
     try {
+        UseOwnSettings();
         exitCode = Run(argc, argv);
     } catch (const std::exception& error) {
         hlx::Report(vex::system::Printable(error.what()));
