@@ -40,7 +40,7 @@ struct GUID
     std::uint64_t Low = 0;
 
     friend constexpr bool operator==(const GUID&, const GUID&) = default;
-    friend constexpr auto operator<=>(const GUID&, const GUID&) = default;
+    friend constexpr auto operator<=>(const GUID&, const GUID&) = default;  // NOLINT: no null here
 };
 
 using IID = GUID;
