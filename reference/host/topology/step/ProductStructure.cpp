@@ -30,10 +30,10 @@ Placement PlacementOf(const TopLoc_Location& location)
 {
     const gp_Trsf transformation = location.Transformation();
     Placement placement{};
-    for (int row = 0; row < 3; ++row) {
-        for (int column = 0; column < 4; ++column) {
-            placement[static_cast<std::size_t>(4 * row + column)] =
-                transformation.Value(row + 1, column + 1);
+    auto value = placement.begin();
+    for (int row = 1; row <= 3; ++row) {
+        for (int column = 1; column <= 4; ++column) {
+            *value++ = transformation.Value(row, column);
         }
     }
     return placement;
