@@ -3,23 +3,16 @@
 // standard error, the rest is shown.
 #include "Commands.h"
 #include "DocumentContents.h"
+#include "Messages.h"
 #include "OpenedDocument.h"
 #include "ProductListing.h"
 #include "host/product/PartGeometry.h"
-#include "host/system/Texts.h"
 
 #include <fmt/format.h>
 
 namespace hlx {
 
 namespace {
-
-std::string Quoted(std::string_view text)
-{
-    std::string quoted;
-    vex::text::AppendQuoted(quoted, text);
-    return quoted;
-}
 
 /// The quoted alias; `complete` becomes false when it cannot be had.
 std::string NameOf(const VEXBaseUnknown_var& object, bool& complete)

@@ -4,7 +4,6 @@
 
 #include "Messages.h"
 #include "host/product/ProductStructure.h"
-#include "host/system/Texts.h"
 
 #include <fmt/format.h>
 
@@ -13,13 +12,6 @@
 namespace hlx {
 
 namespace {
-
-std::string Quoted(std::string_view text)
-{
-    std::string quoted;
-    vex::text::AppendQuoted(quoted, text);
-    return quoted;
-}
 
 std::string LineOf(const VEXIProduct_var& product, std::size_t depth, bool asAbove)
 {
