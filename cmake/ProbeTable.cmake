@@ -9,7 +9,7 @@ if(EXISTS ${probe_script})
     add_custom_command(OUTPUT ${probe_table}
         COMMAND Python3::Interpreter ${probe_script} sdk ${probe_table}
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
-        DEPENDS ${probe_script} ${probe_headers}
+        DEPENDS ${probe_script} ${PROJECT_SOURCE_DIR}/scripts/sdk_operations.py ${probe_headers}
         COMMENT "Listing the SDK's probes"
         VERBATIM)
     add_custom_target(VEXProbeTable DEPENDS ${probe_table})

@@ -7,6 +7,7 @@
 #include "OpenedDocument.h"
 #include "ProductListing.h"
 #include "host/product/PartGeometry.h"
+#include "host/system/Texts.h"
 
 #include <fmt/format.h>
 
@@ -21,7 +22,7 @@ std::string NameOf(const VEXBaseUnknown_var& object, bool& complete)
     if (!alias) {
         complete = Report("the name of an object cannot be read");
     }
-    return Quoted(alias ? alias->GetAlias().View() : std::string_view());
+    return vex::text::DoubleQuoted(alias ? alias->GetAlias().View() : std::string_view());
 }
 
 bool PrintLinks(const VEXISamAnalysisManager& manager)
@@ -36,9 +37,10 @@ bool PrintLinks(const VEXISamAnalysisManager& manager)
     for (int i = 1; i <= documents.Size(); ++i) {
         const VEXDocument* const linked = documents[i];
         complete = complete && linked != nullptr;
-        Write(fmt::format("linked to: {}\n", linked == nullptr
-                                                 ? "a document that cannot be opened"
-                                                 : Quoted(linked->StorageName().View())));
+        Write(fmt::format("linked to: {}\n",
+                          linked == nullptr
+                              ? "a document that cannot be opened"
+                              : vex::text::DoubleQuoted(linked->StorageName().View())));
     }
     return complete;
 }

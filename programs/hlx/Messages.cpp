@@ -2,19 +2,10 @@
 // Lines and text to the standard streams.
 #include "Messages.h"
 
-#include "host/system/Texts.h"
-
 #include <cstdio>
 #include <string>
 
 namespace hlx {
-
-std::string Quoted(std::string_view text)
-{
-    std::string quoted;
-    vex::text::AppendQuoted(quoted, text);
-    return quoted;
-}
 
 bool Report(std::string_view reason)
 {

@@ -16,9 +16,6 @@ bool Report(std::string_view reason);
 /// Writes a line about what is being done to standard error.
 void Progress(std::string_view what);
 
-/// The text in double quotes, escaped as in the tree dump.
-std::string Quoted(std::string_view text);
-
 /// Writes text as it is to standard output.
 void Write(std::string_view text);
 

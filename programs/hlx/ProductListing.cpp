@@ -4,6 +4,7 @@
 
 #include "Messages.h"
 #include "host/product/ProductStructure.h"
+#include "host/system/Texts.h"
 
 #include <fmt/format.h>
 
@@ -15,13 +16,14 @@ namespace {
 
 std::string LineOf(const VEXIProduct_var& product, std::size_t depth, bool asAbove)
 {
-    const std::string partNumber = Quoted(product->GetPartNumber().View());
+    const std::string partNumber = vex::text::DoubleQuoted(product->GetPartNumber().View());
     const char* const end = asAbove ? ", as above" : "";
     if (depth == 0) {
         return fmt::format("product {}{}\n", partNumber, end);
     }
     const VEXIAlias_var alias = product;
-    const std::string name = Quoted(alias ? alias->GetAlias().View() : std::string_view());
+    const std::string name =
+        vex::text::DoubleQuoted(alias ? alias->GetAlias().View() : std::string_view());
     return fmt::format("{:{}}product {} of {}{}\n", "", depth * 2, name, partNumber, end);
 }
 
@@ -53,7 +55,7 @@ bool ProductListing::AppendBelow(const VEXIProduct_var& product,
     if (children == nullptr) {
         AppendOwn(feature, below);
         return Report(fmt::format("what stands below product {} cannot be read",
-                                  Quoted(product->GetPartNumber().View())));
+                                  vex::text::DoubleQuoted(product->GetPartNumber().View())));
     }
     bool complete = true;
     for (int i = 1; i <= children->Size(); ++i) {

@@ -7,6 +7,7 @@
 #include "VEXProductStructure.h"
 
 /// A set of an analysis case; a step is one.
+/// Names of ours: GetAnalysisFeatures.
 class VEXISamAnalysisSet : public VEXBaseUnknown
 {
 public:
@@ -20,6 +21,7 @@ public:
 VEX_INTERFACE(VEXISamAnalysisSet);
 
 /// An analysis case: what is solved in one run.
+/// Names of ours: GetAnalysisSets.
 class VEXISamAnalysisCase : public VEXBaseUnknown
 {
 public:
@@ -30,6 +32,7 @@ public:
 VEX_INTERFACE(VEXISamAnalysisCase);
 
 /// An analysis model: a finite element model with its cases.
+/// Names of ours: GetAnalysisCases.
 class VEXISamAnalysisModel : public VEXBaseUnknown
 {
 public:
@@ -40,6 +43,7 @@ public:
 VEX_INTERFACE(VEXISamAnalysisModel);
 
 /// The documents that an analysis document is linked to.
+/// Names of ours: GetLinkedDocuments, AddLink.
 class VEXISamDocumentManager : public VEXBaseUnknown
 {
 public:
@@ -55,6 +59,7 @@ public:
 VEX_INTERFACE(VEXISamDocumentManager);
 
 /// The analysis manager of a document.
+/// Names of ours: GetCurrentAnalysisModel, GetAllAnalysisModels, GetDocumentManager.
 class VEXISamAnalysisManager : public VEXBaseUnknown
 {
 public:
@@ -72,15 +77,18 @@ public:
 VEX_INTERFACE(VEXISamAnalysisManager);
 
 /// The container of everything analysis in a document; it is the document's container of features.
+/// Names of ours: GetAnalysisManager.
 class VEXISamAnalysisContainer : public VEXBaseUnknown
 {
 public:
+    /// The analysis manager of the document.
     virtual HRESULT GetAnalysisManager(VEXISamAnalysisManager_var& manager) const = 0;
 };
 
 VEX_INTERFACE(VEXISamAnalysisContainer);
 
 /// Analysis access of a document; only analysis documents have it.
+/// Names of ours: GetSpecContainer.
 class VEXISamAccess : public VEXBaseUnknown
 {
 public:
@@ -91,6 +99,7 @@ public:
 VEX_INTERFACE(VEXISamAccess);
 
 /// Search among the objects below an analysis object.
+/// Names of ours: AddObject, GetChildren.
 class VEXISamAnalysisScan : public VEXBaseUnknown
 {
 public:
@@ -112,6 +121,7 @@ public:
 VEX_INTERFACE(VEXISamAnalysisScan);
 
 /// Makes features of an analysis model from the loaded catalogues.
+/// Names of ours: CreateFeature.
 class VEXISamAnalysisModelFactory : public VEXBaseUnknown
 {
 public:

@@ -73,6 +73,7 @@ public:
     VEXBaseUnknown(const VEXBaseUnknown&) noexcept {}
     VEXBaseUnknown& operator=(const VEXBaseUnknown&) noexcept { return *this; }
 
+    /// The class's own record: its run-time class, that one's identifier, its name, a new object.
     static VEXMetaClass* MetaObject();
     static const GUID& ClassId();
     static const char* ClassName();

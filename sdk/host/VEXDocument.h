@@ -8,6 +8,7 @@
 #include "VEXUnicodeString.h"
 #include "VEXVar.h"
 
+/// Names of ours: StorageName, GetType.
 class VEXDocument : public VEXBaseUnknown
 {
 public:

@@ -6,6 +6,7 @@
 
 #include "VEXDocument.h"
 
+/// Names of ours: Save.
 class VEX_EXPORT VEXDocumentServices
 {
 public:

@@ -4,6 +4,7 @@
 
 #include "VEXBaseUnknown.h"
 
+/// Names of ours: SetPending.
 class VEX_EXPORT VEXError
 {
 public:

@@ -9,6 +9,7 @@ class VEXISpecObject;
 VEX_INTERFACE(VEXISpecObject);
 
 /// One attribute of a feature. Owned by the list it came in; see VEXISpecObject::ListAttributes.
+/// Names of ours: GetName.
 class VEXISpecAttribute : public VEXBaseUnknown
 {
 public:
@@ -17,12 +18,14 @@ public:
     /// was deleted.
     virtual VEXISpecObject* GetValueObject() const = 0;
 
+    /// The attribute's name in the catalogue.
     virtual VEXUnicodeString GetName() const = 0;
 };
 
 VEX_INTERFACE(VEXISpecAttribute);
 
 /// A feature of a document's tree.
+/// Names of ours: GetFather.
 class VEXISpecObject : public VEXBaseUnknown
 {
 public:
@@ -43,9 +46,11 @@ public:
 };
 
 /// The displayed name of a feature.
+/// Names of ours: SetAlias.
 class VEXIAlias : public VEXBaseUnknown
 {
 public:
+    /// Gives the feature another name.
     /// @return S_OK; E_INVALIDARG for a text that is not valid UTF-8 (the name stays); E_FAIL when
     /// the feature is gone
     virtual HRESULT SetAlias(const VEXUnicodeString& name) = 0;
@@ -57,6 +62,7 @@ public:
 VEX_INTERFACE(VEXIAlias);
 
 /// An object whose children of a kind can be listed, at any depth below it.
+/// Names of ours: GetAllChildren.
 class VEXIDescendants : public VEXBaseUnknown
 {
 public:
@@ -70,6 +76,7 @@ public:
 VEX_INTERFACE(VEXIDescendants);
 
 /// A root from which a feature tree can be shown.
+/// Names of ours: GetChildren, GetSpecObject.
 class VEXINavigateObject : public VEXBaseUnknown
 {
 public:
@@ -84,6 +91,7 @@ public:
 VEX_INTERFACE(VEXINavigateObject);
 
 /// A container of features or of B-rep accesses in a document.
+/// Names of ours: GetMemberCount, ListMembers.
 class VEXIContainer : public VEXBaseUnknown
 {
 public:
@@ -98,6 +106,7 @@ public:
 VEX_INTERFACE(VEXIContainer);
 
 /// The containers of a document.
+/// Names of ours: GetSpecContainer, GetBRepContainer.
 class VEXIContainerOfDocument : public VEXBaseUnknown
 {
 public:

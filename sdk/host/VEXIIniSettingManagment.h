@@ -4,6 +4,7 @@
 
 #include "VEXVar.h"
 
+/// Names of ours: Commit.
 class VEXIIniSettingManagment : public VEXBaseUnknown
 {
 public:

@@ -13,6 +13,7 @@ enum VEXClassKind : int {
     VEXImplementationClass = 1,
 };
 
+/// A run-time class. Names of ours: all.
 class VEX_EXPORT VEXMetaClass
 {
 public:

@@ -5,6 +5,7 @@
 #include "VEXFeatures.h"
 
 /// A product: a node of the assembly structure.
+/// Names of ours: GetChildren, GetPartNumber.
 class VEXIProduct : public VEXBaseUnknown
 {
 public:
@@ -20,6 +21,7 @@ public:
 VEX_INTERFACE(VEXIProduct);
 
 /// An object that features of other documents can refer to.
+/// Names of ours: GetDocument.
 class VEXILinkableObject : public VEXBaseUnknown
 {
 public:
@@ -30,6 +32,7 @@ public:
 VEX_INTERFACE(VEXILinkableObject);
 
 /// The root objects of a document.
+/// Names of ours: GetRoots.
 class VEXIDocRoots : public VEXBaseUnknown
 {
 public:

@@ -13,7 +13,7 @@
 #include <utility>
 
 /// Ends the process with a message that names the interface: `->` on an empty handle is a
-/// programming error.
+/// programming error. Name of ours.
 [[noreturn]] VEX_EXPORT void VEXUseOfEmptyHandle(const char* interfaceName);
 
 template <class Interface>

@@ -4,10 +4,14 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 class HLXGenString
 {
 public:
+    HLXGenString() = default;
+    explicit HLXGenString(std::string text) noexcept : _text(std::move(text)) {}
+
     /// The text, ended by a zero; valid until it changes or dies. Never null.
     const char* c_str() const noexcept { return _text.c_str(); }
     std::size_t Length() const noexcept { return _text.size(); }

@@ -5,6 +5,7 @@
 #include "VEXAnalysisModel.h"
 
 /// An analysis case of the product.
+/// Names of ours: GetAnalysisType.
 class HLXIAnalysisCase : public VEXBaseUnknown
 {
 public:
@@ -18,12 +19,14 @@ public:
         FrequencyAnalysis = 4,
     };
 
+    /// The kind of analysis that the case is meant for.
     virtual HRESULT GetAnalysisType(analysisTypeEnum& type) const = 0;
 };
 
 VEX_INTERFACE(HLXIAnalysisCase);
 
 /// Factory of analysis cases; component "HLXHacAnalysisCaseFact".
+/// Names of ours: CreateAnalysisCase.
 class HLXIHacAnalysisCaseFact : public VEXBaseUnknown
 {
 public:
@@ -41,6 +44,7 @@ public:
 VEX_INTERFACE(HLXIHacAnalysisCaseFact);
 
 /// Factory of element behaviours; component "HLXElementBehaviorFact".
+/// Names of ours: CreateElementBehavior.
 class HLXIElementBehaviorFact : public VEXBaseUnknown
 {
 public:

@@ -6,10 +6,11 @@
 #include "VEXUnicodeString.h"
 #include "VEXVar.h"
 
+/// Names of ours: all.
 class HLXIZPKWBGeneralSettingAtt : public VEXBaseUnknown
 {
 public:
-    /// Units by their symbols; the first is the default.
+    /// The basic unit of a quantity, by its symbol. The first one is the default:
     ///   length       mm, um, cm, m, km, in, ft, yd, mi
     ///   mass         kg, mg, g, t, oz, lb, slug
     ///   time         s, us, ms, min, h

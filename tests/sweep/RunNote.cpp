@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "sweep/RunNote.h"
 
-#include <signal.h>
 #include <unistd.h>
+#include <csignal>
 
 #include <cstdlib>
 #include <cstring>

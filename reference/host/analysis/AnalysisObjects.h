@@ -14,20 +14,6 @@ inline VEXBaseUnknown_var HandleOf(Feature* feature)
     return VEXShare<VEXBaseUnknown>(feature);
 }
 
-template <class Interface>
-bool Offers(const Feature& feature)
-{
-    return feature.Type().Find(VEXInterfaceTraits<Interface>::Id) != nullptr;
-}
-
-/// An interface of a feature as a counted handle; empty when the feature is null or does not offer
-/// it.
-template <class Interface>
-VEXVar<Interface> FaceOf(const Feature* feature)
-{
-    return feature == nullptr ? VEXVar<Interface>() : VEXShare(feature->Face<Interface>());
-}
-
 /// The first child that offers an interface; null when there is none.
 template <class Interface>
 Feature* FirstChild(const Feature& parent)

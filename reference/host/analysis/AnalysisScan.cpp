@@ -15,7 +15,7 @@ HRESULT AnalysisScanAdapter::AddObject(VEXBaseUnknown* object, VEXBaseUnknown* b
                 return E_FAIL;
             }
             Feature* const feature = FeatureBehind(object);
-            const Feature* const successor = FeatureBehind(before);
+            Feature* const successor = FeatureBehind(before);
             const bool isPlace =
                 before == nullptr || (successor != nullptr && successor->Parent() == &Self());
             // A document's containers stay where they are.

@@ -39,6 +39,14 @@ Component::~Component()
 
 HRESULT Component::QueryInterface(const IID& iid, void** object) const
 {
+    // Most casts are to what is bound already, and nobody observes them: they take the short way.
+    if (!probe::active && object != nullptr) [[likely]] {
+        if (VEXBaseUnknown* const adapter = FindBound(iid)) {
+            *object = adapter;
+            ++_count;
+            return S_OK;
+        }
+    }
     return Cast(*this, &FindOfComponent, iid, nullptr, object);
 }
 
@@ -112,10 +120,8 @@ VEXMetaClass* Component::GetMetaObject() const
 
 VEXBaseUnknown* Component::FindInterface(const IID& iid) const
 {
-    for (const Bound& bound : _adapters) {
-        if (bound.entry->id == iid) {
-            return bound.adapter;
-        }
+    if (VEXBaseUnknown* const bound = FindBound(iid)) {
+        return bound;
     }
     if (iid == IID_VEXBaseUnknown) {
         return const_cast<Component*>(this);
@@ -126,7 +132,7 @@ VEXBaseUnknown* Component::FindInterface(const IID& iid) const
     }
     VEXBaseUnknown* const adapter = entry->make(const_cast<Component&>(*this));
     if (adapter != nullptr) {
-        _adapters.push_back({entry, adapter});
+        _adapters.push_back({entry->id, adapter});
     }
     return adapter;
 }

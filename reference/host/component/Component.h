@@ -61,9 +61,18 @@ private:
 
     struct Bound
     {
-        const InterfaceEntry* entry;
+        IID id;
         VEXBaseUnknown* adapter;
     };
+    VEXBaseUnknown* FindBound(const IID& iid) const
+    {
+        for (const Bound& bound : _adapters) {
+            if (bound.id == iid) {
+                return bound.adapter;
+            }
+        }
+        return nullptr;
+    }
 
     std::uint32_t _hostReferences = 0;
     const ComponentType* _type;

@@ -4,6 +4,7 @@
 #include "host/component/HostLibrary.h"
 #include "host/component/LibraryFile.h"
 #include "host/system/MessageTexts.h"
+#include "host/system/Path.h"
 
 #include <dlfcn.h>
 #include <fmt/format.h>
@@ -75,16 +76,8 @@ void* Open(std::string_view name, std::string& file, std::string& error)
 /// The folders that the user names.
 std::vector<std::string> FoldersOfUser()
 {
-    std::vector<std::string> folders;
-    const char* const setting = std::getenv("VEX_COMPONENT_PATH");
-    std::string_view rest = setting == nullptr ? "" : setting;
-    while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find(':'), rest.size());
-        if (end > 0) {
-            folders.push_back(Absolute(std::string(rest.substr(0, end))));
-        }
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
+    std::vector<std::string> folders = system::FoldersNamedIn("VEX_COMPONENT_PATH");
+    std::transform(folders.begin(), folders.end(), folders.begin(), Absolute);
     return folders;
 }
 

@@ -58,6 +58,22 @@ void Document::SetPath(std::string absolutePath)
     _path = std::move(absolutePath);
 }
 
+void Document::SetStored(const std::string& path, const std::optional<system::FileSummary>& summary,
+                         bool hasLinks)
+{
+    _stored.reset();
+    if (summary) {
+        _stored = StoredForm{path, *summary, hasLinks, _dataVersion, _tree.Changes()};
+    }
+}
+
+const Document::StoredForm* Document::Stored() const
+{
+    const bool unchanged = _stored && _stored->changes == _tree.Changes() &&
+                           _stored->dataVersion == _dataVersion && _blobs.Numbers().empty();
+    return unchanged ? &*_stored : nullptr;
+}
+
 bool Document::Geometry(std::uint64_t number, std::span<const std::byte>& bytes, std::string& error)
 {
     return _blobs.Read(number, bytes, error);

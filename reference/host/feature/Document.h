@@ -8,6 +8,7 @@
 #include "host/feature/GeometryBlobs.h"
 #include "host/store/DocumentFormat.h"
 #include "host/store/DocumentKind.h"
+#include "host/system/FileBytes.h"
 
 #include <memory>
 #include <optional>
@@ -59,6 +60,21 @@ public:
     unsigned DataVersion() const noexcept { return _dataVersion; }
     void SetDataVersion(unsigned version) { _dataVersion = version; }
 
+    /// The file that holds what the document held when its tree had seen so many changes.
+    struct StoredForm
+    {
+        std::string path;
+        system::FileSummary summary;
+        bool hasLinks = false;  ///< which are relative to its folder
+        unsigned dataVersion = 0;
+        std::uint64_t changes = 0;
+    };
+    /// Notes the file that holds what the document holds now. `summary`: none when it is not known.
+    void SetStored(const std::string& path, const std::optional<system::FileSummary>& summary,
+                   bool hasLinks);
+    /// Null when nothing is known, or the document was changed since.
+    const StoredForm* Stored() const;
+
     GeometryBlobs& Blobs() noexcept { return _blobs; }
     /// The blob of that number (the kernel's binary form); read from the file when first asked for,
     /// and checked. It lives as long as the document. False with the reason in `error`.
@@ -91,6 +107,7 @@ private:
     bool _ofProgram = false;
     bool _open = true;
     unsigned _dataVersion = store::kDataVersion;
+    std::optional<StoredForm> _stored;
     GeometryBlobs _blobs;
 };
 

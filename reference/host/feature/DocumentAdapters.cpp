@@ -7,11 +7,6 @@
 
 namespace vex {
 
-VEXIContainer* CountedContainer(const Feature* container)
-{
-    return container == nullptr ? nullptr : VEXShare(container->Face<VEXIContainer>()).Detach();
-}
-
 VEXUnicodeString DocumentAdapter::StorageName() const
 {
     return Probe<"VEXDocument::StorageName">(
@@ -30,7 +25,7 @@ HRESULT ContainerOfDocumentAdapter::GetSpecContainer(VEXIContainer*& container) 
 {
     return Probe<"VEXIContainerOfDocument::GetSpecContainer">(
         [&] {
-            container = CountedContainer(Self().SpecContainer());
+            container = FaceOf<VEXIContainer>(Self().SpecContainer()).Detach();
             return container == nullptr ? E_FAIL : S_OK;
         },
         Out(container));
@@ -40,7 +35,7 @@ HRESULT ContainerOfDocumentAdapter::GetBRepContainer(VEXIContainer*& container) 
 {
     return Probe<"VEXIContainerOfDocument::GetBRepContainer">(
         [&] {
-            container = CountedContainer(Self().BRepContainer());
+            container = FaceOf<VEXIContainer>(Self().BRepContainer()).Detach();
             return container == nullptr ? E_FAIL : S_OK;
         },
         Out(container));

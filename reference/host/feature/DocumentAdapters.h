@@ -40,8 +40,4 @@ public:
 VEX_EXPORT extern const std::span<const VEXInterfaceRow> documentInterfaces;
 VEX_EXPORT extern const std::span<const VEXInterfaceRow> docRootsInterfaces;
 
-/// A counted VEXIContainer of a container feature; null for null and for one without that
-/// interface.
-VEX_EXPORT VEXIContainer* CountedContainer(const Feature* container);
-
 }  // namespace vex

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace vex {
 
@@ -166,8 +167,13 @@ bool DocumentLoader::AddFeature(FeatureTree& tree, const store::FeatureRow& row,
     if (feature == nullptr || (row.alias && feature->SetAlias(*row.alias) != S_OK)) {
         return Refuse(row, "its id or its name cannot be. Take the document from a backup.", error);
     }
+    if (std::cmp_not_equal(row.container + 1, tree.Roots().size())) {
+        return Refuse(row, "it is not in the container it says. Take the document from a backup.",
+                      error);
+    }
     _features.push_back(feature);
     store::AttributeUnpacker unpacker(row.attributes);
+    feature->Reserve(unpacker.Left());
     std::string reason;
     for (store::Attribute attribute; unpacker.Next(attribute);) {
         if (!AddAttribute(*feature, *kind, attribute, reason)) {
@@ -182,9 +188,14 @@ bool DocumentLoader::Load(Document& document, std::string& error)
 {
     // What the file says of its size is not known to be true yet.
     constexpr std::int64_t likely = 1 << 20;
-    _features.reserve(static_cast<std::size_t>(std::min(_reader.Counts().features, likely)));
+    _features.reserve(
+        static_cast<std::size_t>(std::clamp<std::int64_t>(_reader.Counts().features, 0, likely)));
     for (store::FeatureRow row; _reader.Next(row);) {
         if (!AddFeature(document.Tree(), row, error)) {
+            // What does not fit this process may have been changed by damage: that is the reason
+            // then.
+            std::string damage;
+            error = _reader.Finish(damage) ? error : damage;
             return false;
         }
     }
@@ -217,6 +228,7 @@ DocumentHolder LoadDocument(const std::string& path, std::string& error)
     }
     document->SetPath(path);
     document->SetDataVersion(static_cast<unsigned>(reader->DataVersion()));
+    document->SetStored(path, reader->Summary(), !reader->Links().empty());
     if (const auto stored = reader->Geometries(); !stored.empty()) {
         document->Blobs().Restore(
             {stored.begin(), stored.end()},

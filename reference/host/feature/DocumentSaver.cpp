@@ -3,9 +3,11 @@
 #include "host/feature/DocumentSession.h"
 #include "host/feature/DocumentStorage.h"
 #include "host/store/AttributePacker.h"
+#include "host/store/DocumentCopy.h"
 #include "host/store/DocumentWriter.h"
 #include "host/store/LinkPath.h"
 #include "host/system/MessageTexts.h"
+#include "host/system/Path.h"
 
 #include <fmt/format.h>
 
@@ -27,6 +29,8 @@ public:
 
     /// Why a feature cannot be stored; empty when the writer knows.
     const std::string& Fault() const { return _fault; }
+
+    bool HasLinks() const { return !_links.empty(); }
 
 private:
     /// A late type's name in the file, and those of its attributes as far as they were used.
@@ -151,10 +155,31 @@ bool DocumentSaver::AddFeature(const Feature& feature, int container)
     return packed && _writer.AddFeature(row);
 }
 
+/// Stores a document that is still as it was stored, by its file. Onto that file itself it is
+/// written anew: that also mends what became of the file.
+store::CopyResult CopyDocument(Document& document, const std::string& path, std::string& error)
+{
+    const Document::StoredForm* const stored = document.Stored();
+    if (stored == nullptr || stored->path == path ||
+        (stored->hasLinks && system::FolderOf(stored->path) != system::FolderOf(path))) {
+        return store::CopyResult::OtherContent;
+    }
+    const auto result = store::CopyDocumentFile(stored->path, stored->summary, path, error);
+    if (result == store::CopyResult::Copied) {
+        const Document::StoredForm original = *stored;
+        document.SetStored(path, original.summary, original.hasLinks);
+    }
+    return result;
+}
+
 }  // namespace
 
 bool SaveDocument(Document& document, const std::string& path, std::string& error)
 {
+    const store::CopyResult copied = CopyDocument(document, path, error);
+    if (copied != store::CopyResult::OtherContent) {
+        return copied == store::CopyResult::Copied;
+    }
     store::DocumentWriter writer;
     bool sound = writer.Begin(path, document.DocType(), static_cast<int>(document.DataVersion()));
     for (const std::uint64_t number : document.Blobs().Numbers()) {
@@ -177,7 +202,11 @@ bool SaveDocument(Document& document, const std::string& path, std::string& erro
         return false;
     }
     // If a row was refused, Commit fails and tells why.
-    return writer.Commit(error);
+    const bool saved = writer.Commit(error);
+    if (saved) {
+        document.SetStored(path, writer.Summary(), saver.HasLinks());
+    }
+    return saved;
 }
 
 }  // namespace vex

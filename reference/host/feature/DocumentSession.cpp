@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <new>
 
 namespace vex {
 
@@ -98,7 +99,13 @@ void DocumentSession::Forget(const Document& document)
 HRESULT DocumentSession::Load(const std::string& absolutePath, bool readOnly, Document*& document,
                               std::string& error)
 {
-    DocumentHolder loaded = LoadDocument(absolutePath, error);
+    DocumentHolder loaded;
+    try {
+        loaded = LoadDocument(absolutePath, error);
+    } catch (const std::bad_alloc&) {
+        error = Quoted(absolutePath) +
+                ": there is not enough memory for it. Remove other documents and try again.";
+    }
     if (loaded == nullptr) {
         return E_FAIL;
     }

@@ -14,9 +14,9 @@ namespace vex {
 /// @param path absolute
 VEX_EXPORT DocumentHolder LoadDocument(const std::string& path, std::string& error);
 
-/// Writes a document to a file, whole or not at all; the document's own path stays as it is.
-/// References to features that are gone are stored as not set, links relative to the file. @param
-/// path absolute
+/// Stores a document in a file, whole or not at all; the document's own path stays as it is. One
+/// that is as it was stored in another file is stored as a copy of that file. References to
+/// features that are gone are stored as not set, links relative to the file. @param path absolute
 VEX_EXPORT bool SaveDocument(Document& document, const std::string& path, std::string& error);
 
 }  // namespace vex

@@ -48,6 +48,8 @@ void Feature::Detach() noexcept
 {
     _tree = nullptr;
     _parent = nullptr;
+    _previous = nullptr;
+    _next = nullptr;
     _alias.reset();
     _children = {};
     _attributes = {};
@@ -66,7 +68,7 @@ int Feature::IsAKindOf(const char* name) const
 
 std::string_view Feature::Alias() const noexcept
 {
-    return _alias == nullptr ? std::string_view() : *_alias;
+    return _alias == nullptr ? std::string_view() : _alias.get();
 }
 
 HRESULT Feature::SetAlias(std::string_view alias)
@@ -77,7 +79,11 @@ HRESULT Feature::SetAlias(std::string_view alias)
     if (!text::IsValid(alias)) {
         return E_INVALIDARG;
     }
-    _alias = std::make_unique<std::string>(alias);
+    // No std::string: its spare room, a million times, is much.
+    auto copy = std::make_unique_for_overwrite<char[]>(alias.size() + 1);
+    *std::ranges::copy(alias, copy.get()).out = '\0';
+    _alias = std::move(copy);
+    ++_tree->_changes;
     return S_OK;
 }
 
@@ -92,10 +98,9 @@ const Feature::Attribute* Feature::FindAttribute(int index) const
     return nullptr;
 }
 
-bool Feature::IsDead(const Value& value) const
+bool Feature::HasGone(const Reference& reference) const
 {
-    const Reference* const reference = std::get_if<Reference>(&value);
-    return reference != nullptr && reference->id != 0 && _tree->Find(reference->id) == nullptr;
+    return _tree->Find(reference.id) == nullptr;
 }
 
 const Value& Feature::Get(int index) const
@@ -127,7 +132,13 @@ HRESULT Feature::Set(int index, Value value)
         !IsStorable(value) || IsDead(value)) {
         return E_INVALIDARG;
     }
+    ++_tree->_changes;
     const auto wanted = static_cast<std::uint32_t>(index);
+    if (_attributes.size() < _attributes.capacity() &&
+        (_attributes.empty() || _attributes.back().index < wanted)) {
+        _attributes.push_back({wanted, std::move(value)});
+        return S_OK;
+    }
     const auto place = std::ranges::lower_bound(_attributes, wanted, {}, &Attribute::index);
     if (place != _attributes.end() && place->index == wanted) {
         place->value = std::move(value);
@@ -144,8 +155,11 @@ HRESULT Feature::Set(int index, Value value)
 
 void Feature::Unset(int index)
 {
-    std::erase_if(_attributes,
-                  [index](const Attribute& a) { return std::cmp_equal(a.index, index); });
+    const auto erased = std::erase_if(
+        _attributes, [index](const Attribute& a) { return std::cmp_equal(a.index, index); });
+    if (erased != 0 && _tree != nullptr) {
+        ++_tree->_changes;
+    }
 }
 
 int Feature::Require(std::string_view name) const

@@ -6,6 +6,7 @@
 
 #include "VEXUnicodeString.h"
 #include "host/component/Component.h"
+#include "host/feature/FeatureList.h"
 #include "host/feature/LateType.h"
 
 #include <memory>
@@ -25,7 +26,9 @@ public:
     /// Null once the feature was deleted or its document removed.
     FeatureTree* Tree() const noexcept { return _tree; }
     Feature* Parent() const noexcept { return _parent; }
-    const std::vector<Feature*>& Children() const noexcept { return _children; }
+    const FeatureList& Children() const noexcept { return _children; }
+    /// The one behind it in its parent's children; null when it is the last.
+    Feature* NextSibling() const noexcept { return _next; }
 
     bool HasAlias() const noexcept { return _alias != nullptr; }
     std::string_view Alias() const noexcept;
@@ -44,6 +47,8 @@ public:
     ///         reference to no feature of the tree; E_FAIL when the feature is gone
     HRESULT Set(int index, Value value);
     void Unset(int index);
+    /// Makes room for that many attributes at once.
+    void Reserve(std::size_t attributes) { _attributes.reserve(attributes); }
 
     /// Visits the attributes that are set (IsSet), by index.
     template <class Visitor>
@@ -87,6 +92,7 @@ public:
 
 private:
     friend class FeatureTree;
+    friend class FeatureList;
     Feature(FeatureTree& tree, const LateType& lateType, FeatureId id);
     ~Feature() override;
     void OnUnreferenced() const override;
@@ -98,7 +104,12 @@ private:
     };
 
     const Attribute* FindAttribute(int index) const;
-    bool IsDead(const Value& value) const;
+    bool IsDead(const Value& value) const
+    {
+        const Reference* const reference = std::get_if<Reference>(&value);
+        return reference != nullptr && reference->id != 0 && HasGone(*reference);
+    }
+    bool HasGone(const Reference& reference) const;
     int Require(std::string_view name) const;
     [[noreturn]] void FailAttribute(std::string_view name, const char* reason) const;
     void Detach() noexcept;
@@ -107,9 +118,31 @@ private:
     FeatureTree* _tree;
     FeatureId _id;
     Feature* _parent = nullptr;
-    std::unique_ptr<std::string> _alias;
-    std::vector<Feature*> _children;
+    std::unique_ptr<char[]> _alias;  ///< ended by a zero: there is none within
+    Feature* _previous = nullptr;    ///< among its siblings
+    Feature* _next = nullptr;
+    FeatureList _children;
     std::vector<Attribute> _attributes;  ///< those set, by index
 };
+
+inline FeatureList::Iterator& FeatureList::Iterator::operator++()
+{
+    _feature = _feature->NextSibling();
+    return *this;
+}
+
+template <class Interface>
+bool Offers(const Feature& feature)
+{
+    return feature.Type().Find(VEXInterfaceTraits<Interface>::Id) != nullptr;
+}
+
+/// An interface of a feature as a counted handle; empty when the feature is null or does not offer
+/// it.
+template <class Interface>
+VEXVar<Interface> FaceOf(const Feature* feature)
+{
+    return feature == nullptr ? VEXVar<Interface>() : VEXShare(feature->Face<Interface>());
+}
 
 }  // namespace vex

@@ -43,11 +43,6 @@ void KeepImplementing(const char* interfaceName, std::vector<Feature*>& features
                   [&](const Feature* feature) { return feature->Type().Find(iid) == nullptr; });
 }
 
-VEXISpecObject_var AsSpecObject(const Feature* feature)
-{
-    return feature == nullptr ? VEXISpecObject_var() : VEXShare(feature->Face<VEXISpecObject>());
-}
-
 // ---- VEXISpecObject ----
 
 VEXUnicodeString SpecObjectAdapter::GetType() const
@@ -59,7 +54,8 @@ VEXUnicodeString SpecObjectAdapter::GetType() const
 
 VEXISpecObject_var SpecObjectAdapter::GetFather() const
 {
-    return Probe<"VEXISpecObject::GetFather">([&] { return AsSpecObject(Self().Parent()); });
+    return Probe<"VEXISpecObject::GetFather">(
+        [&] { return FaceOf<VEXISpecObject>(Self().Parent()); });
 }
 
 VEXListPtrVEXISpecAttribute* SpecObjectAdapter::ListAttributes(const VEXUnicodeString& type,
@@ -107,7 +103,7 @@ VEXListValVEXBaseUnknown_var* NavigateAdapter::GetChildren() const
         }
         auto* const children = new VEXListValVEXBaseUnknown_var;
         for (const Feature* const child : Self().Children()) {
-            if (const VEXISpecObject_var object = AsSpecObject(child)) {
+            if (const VEXISpecObject_var object = FaceOf<VEXISpecObject>(child)) {
                 children->Append(object);
             }
         }
@@ -119,7 +115,7 @@ HRESULT NavigateAdapter::GetSpecObject(VEXISpecObject*& feature) const
 {
     return Probe<"VEXINavigateObject::GetSpecObject">(
         [&] {
-            feature = Self().Tree() == nullptr ? nullptr : AsSpecObject(&Self()).Detach();
+            feature = Self().Tree() == nullptr ? nullptr : FaceOf<VEXISpecObject>(&Self()).Detach();
             return feature == nullptr ? E_FAIL : S_OK;
         },
         Out(feature));
@@ -148,7 +144,7 @@ HRESULT DescendantsAdapter::GetAllChildren(const char* interfaceName,
             }
             KeepImplementing(interfaceName, below);
             for (const Feature* const feature : below) {
-                descendants.Append(AsSpecObject(feature));
+                descendants.Append(FaceOf<VEXISpecObject>(feature));
             }
             return S_OK;
         },

@@ -16,9 +16,6 @@ namespace vex {
 /// Removes the features whose component lacks the interface of that name; null: all.
 VEX_EXPORT void KeepImplementing(const char* interfaceName, std::vector<Feature*>& features);
 
-/// A feature as a handle; empty for null.
-VEX_EXPORT VEXISpecObject_var AsSpecObject(const Feature* feature);
-
 class VEX_EXPORT SpecObjectAdapter : public Adapter<VEXISpecObject, Feature>
 {
 public:

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-// Open addressing with linear probing; a removal moves later entries up, so that there are no
-// tombstones.
+// An array of dense ids; for the others open addressing with linear probing, where a removal moves
+// later entries up, so that there are no tombstones.
 #include "host/feature/FeatureIndex.h"
 
 #include "host/feature/Feature.h"
 
+#include <algorithm>
 #include <random>
 #include <utility>
 
@@ -13,6 +14,9 @@ namespace vex {
 namespace {
 
 constexpr std::size_t smallest = 16;
+
+/// How many times as many places as features the array may have.
+constexpr std::size_t mostPlaces = 2;
 
 }  // namespace
 
@@ -39,28 +43,62 @@ std::size_t FeatureIndex::SlotOf(FeatureId id) const noexcept
     return slot;
 }
 
+Feature* FeatureIndex::FindSparse(FeatureId id) const noexcept
+{
+    return _sparseSize == 0 || id == 0 ? nullptr : _slots[SlotOf(id)].feature;
+}
+
 Feature* FeatureIndex::Find(FeatureId id) const noexcept
 {
-    return _size == 0 || id == 0 ? nullptr : _slots[SlotOf(id)].feature;
+    if (id < _dense.size() && _dense[id] != nullptr) {
+        return _dense[id];
+    }
+    return FindSparse(id);
+}
+
+/// Whether the id has a place in the array. Those that had none when they came stay in the table.
+bool FeatureIndex::MakeDense(FeatureId id)
+{
+    if (id < _dense.size()) {
+        return true;
+    }
+    if (id > smallest + mostPlaces * Size()) {
+        return false;
+    }
+    if (id >= _dense.capacity()) {
+        _dense.reserve(std::max(smallest, id + 1 + id / 4));
+    }
+    _dense.resize(id + 1);
+    return true;
 }
 
 bool FeatureIndex::Add(Feature& feature)
 {
-    if (_slots.size() < smallest || (_size + 1) * 4 > _slots.size() * 3) {
-        Grow();
-    }
-    Slot& slot = _slots[SlotOf(feature.Id())];
-    if (slot.id != 0) {
+    const FeatureId id = feature.Id();
+    if (Find(id) != nullptr) {
         return false;
     }
-    slot = {feature.Id(), &feature};
-    ++_size;
+    if (MakeDense(id)) {
+        _dense[id] = &feature;
+        ++_denseSize;
+        return true;
+    }
+    if (_slots.size() < smallest || (_sparseSize + 1) * 4 > _slots.size() * 3) {
+        GrowSparse();
+    }
+    _slots[SlotOf(id)] = {id, &feature};
+    ++_sparseSize;
     return true;
 }
 
 void FeatureIndex::Remove(FeatureId id) noexcept
 {
-    if (Find(id) == nullptr) {
+    if (id < _dense.size() && _dense[id] != nullptr) {
+        _dense[id] = nullptr;
+        --_denseSize;
+        return;
+    }
+    if (FindSparse(id) == nullptr) {
         return;
     }
     const std::size_t mask = _slots.size() - 1;
@@ -73,16 +111,18 @@ void FeatureIndex::Remove(FeatureId id) noexcept
         }
     }
     _slots[hole] = {};
-    --_size;
+    --_sparseSize;
 }
 
 void FeatureIndex::Clear() noexcept
 {
+    _dense.clear();
+    _denseSize = 0;
     _slots.clear();
-    _size = 0;
+    _sparseSize = 0;
 }
 
-void FeatureIndex::Grow()
+void FeatureIndex::GrowSparse()
 {
     std::vector<Slot> old(std::max(smallest, _slots.size() * 2));
     old.swap(_slots);

@@ -7,29 +7,25 @@
 
 namespace vex {
 
-namespace {
-
-/// The place of a feature among its siblings, searched from both ends: the first and the last are
-/// what is deleted most.
-std::vector<Feature*>::iterator PlaceOf(std::vector<Feature*>& siblings, const Feature* feature)
+void FeatureList::Insert(Feature& feature, Feature* before)
 {
-    for (auto front = siblings.begin(), back = siblings.end(); front != back; ++front) {
-        if (*front == feature) {
-            return front;
-        }
-        if (*--back == feature) {
-            return back;
-        }
-        if (front == back) {
-            break;
-        }
-    }
-    return siblings.end();
+    feature._previous = before == nullptr ? _last : before->_previous;
+    feature._next = before;
+    (feature._previous == nullptr ? _first : feature._previous->_next) = &feature;
+    (before == nullptr ? _last : before->_previous) = &feature;
+    ++_size;
 }
 
-}  // namespace
+void FeatureList::Remove(Feature& feature)
+{
+    (feature._previous == nullptr ? _first : feature._previous->_next) = feature._next;
+    (feature._next == nullptr ? _last : feature._next->_previous) = feature._previous;
+    feature._previous = nullptr;
+    feature._next = nullptr;
+    --_size;
+}
 
-Feature& FeatureTree::Create(const LateType& lateType, Feature* parent, const Feature* before)
+Feature& FeatureTree::Create(const LateType& lateType, Feature* parent, Feature* before)
 {
     auto* const feature = new Feature(*this, lateType, _nextId++);
     _index.Add(*feature);
@@ -49,21 +45,15 @@ Feature* FeatureTree::Restore(const LateType& lateType, Feature* parent, Feature
     return feature;
 }
 
-void FeatureTree::Attach(Feature& feature, Feature* parent, const Feature* before)
+void FeatureTree::Attach(Feature& feature, Feature* parent, Feature* before)
 {
-    std::vector<Feature*>& siblings = Siblings(parent);
-    const auto place = before == nullptr ? siblings.end() : PlaceOf(siblings, before);
-    siblings.insert(place, &feature);
+    const bool isSibling = before != nullptr && before->_parent == parent;
+    Siblings(parent).Insert(feature, isSibling ? before : nullptr);
     feature._parent = parent;
+    ++_changes;
 }
 
-void FeatureTree::Unlink(Feature& feature)
-{
-    std::vector<Feature*>& siblings = Siblings(feature._parent);
-    siblings.erase(PlaceOf(siblings, &feature));
-}
-
-bool FeatureTree::Move(Feature& feature, Feature* parent, const Feature* before)
+bool FeatureTree::Move(Feature& feature, Feature* parent, Feature* before)
 {
     for (const Feature* ancestor = parent; ancestor != nullptr; ancestor = ancestor->_parent) {
         if (ancestor == &feature) {
@@ -77,64 +67,50 @@ bool FeatureTree::Move(Feature& feature, Feature* parent, const Feature* before)
         }
         before = nullptr;
     }
-    Unlink(feature);
+    Siblings(feature._parent).Remove(feature);
     Attach(feature, parent, before);
     return true;
 }
 
 void FeatureTree::Delete(Feature& feature)
 {
-    Unlink(feature);
-    std::vector<Feature*> doomed;
+    Siblings(feature._parent).Remove(feature);
+    Feature* doomed = nullptr;
     Walk(feature, [&](Feature& each, int) {
         _index.Remove(each._id);
-        doomed.push_back(&each);
+        each._previous = std::exchange(doomed, &each);
     });
-    Dispose(std::move(doomed));
+    Dispose(doomed);
 }
 
 void FeatureTree::Clear()
 {
-    std::vector<Feature*> doomed;
-    for (Feature* const root : std::exchange(_roots, {})) {
-        Walk(*root, [&](Feature& each, int) { doomed.push_back(&each); });
+    Feature* doomed = nullptr;
+    for (Feature* const root : std::exchange(_roots, FeatureList())) {
+        Walk(*root, [&](Feature& each, int) { each._previous = std::exchange(doomed, &each); });
     }
     _index.Clear();
-    Dispose(std::move(doomed));
+    Dispose(doomed);
 }
 
 /// First all are detached, then those that nobody holds die: none of them is seen half taken down.
-void FeatureTree::Dispose(std::vector<Feature*> features)
+/// They hang together by what was the link to the feature before: a tree that memory has run out
+/// for can still go.
+void FeatureTree::Dispose(Feature* doomed)
 {
-    std::erase_if(features, [](Feature* feature) {
+    Feature* dead = nullptr;
+    while (doomed != nullptr) {
+        Feature* const feature = doomed;
+        doomed = feature->_previous;
         feature->Detach();
-        return feature->ReferenceCount() != 0;
-    });
-    for (const Feature* const feature : features) {
-        delete feature;
+        if (feature->ReferenceCount() == 0) {
+            feature->_previous = std::exchange(dead, feature);
+        }
     }
-}
-
-void FeatureTree::Walk(Feature& root, const std::function<void(Feature&, int depth)>& visit)
-{
-    struct Level
-    {
-        const std::vector<Feature*>* siblings;
-        std::size_t next;
-    };
-    visit(root, 0);
-    std::vector<Level> levels{{&root.Children(), 0}};
-    while (!levels.empty()) {
-        Level& level = levels.back();
-        if (level.next == level.siblings->size()) {
-            levels.pop_back();
-            continue;
-        }
-        Feature& feature = *(*level.siblings)[level.next++];
-        visit(feature, static_cast<int>(levels.size()));
-        if (!feature.Children().empty()) {
-            levels.push_back({&feature.Children(), 0});
-        }
+    while (dead != nullptr) {
+        const Feature* const feature = dead;
+        dead = feature->_previous;
+        delete feature;
     }
 }
 

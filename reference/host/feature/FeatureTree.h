@@ -7,8 +7,6 @@
 #include "host/feature/Feature.h"
 #include "host/feature/FeatureIndex.h"
 
-#include <functional>
-
 namespace vex {
 
 class Document;
@@ -28,11 +26,11 @@ public:
     Document& Owner() const noexcept { return *_document; }
 
     /// The roots, one a container: a root's parent is null.
-    const std::vector<Feature*>& Roots() const noexcept { return _roots; }
+    const FeatureList& Roots() const noexcept { return _roots; }
 
     /// Makes a feature below `parent` (null: a root), in front of `before` (null, or no child of
-    /// `parent`: at the end, which takes the same time however many there are). Not counted.
-    Feature& Create(const LateType& lateType, Feature* parent, const Feature* before = nullptr);
+    /// `parent`: at the end). Takes the same time however many children there are. Not counted.
+    Feature& Create(const LateType& lateType, Feature* parent, Feature* before = nullptr);
 
     /// As Create at the end, with the id it was stored under; null when the id is 0, above
     /// maximumStoredId or taken.
@@ -40,7 +38,7 @@ public:
 
     /// Moves a feature, with what is below it, below another parent of this tree (null: to the
     /// roots), placed as by Create. False when that would close a circle.
-    bool Move(Feature& feature, Feature* parent, const Feature* before);
+    bool Move(Feature& feature, Feature* parent, Feature* before);
 
     /// Deletes a feature and everything below it. References to them are empty from then on; held
     /// ones are detached.
@@ -53,23 +51,51 @@ public:
     Feature* Find(FeatureId id) const noexcept { return _index.Find(id); }
     std::size_t Size() const noexcept { return _index.Size(); }
 
+    /// Grows with each change of a feature, its place, name or attributes.
+    std::uint64_t Changes() const noexcept { return _changes; }
+
     /// Visits `root` and everything below it, each before its children. `depth` is 0 for the root.
     /// The visit may change attributes, but must not move or delete features nor make new ones.
-    static void Walk(Feature& root, const std::function<void(Feature&, int depth)>& visit);
+    template <class Visit>
+    static void Walk(Feature& root, Visit&& visit);
 
 private:
-    std::vector<Feature*>& Siblings(Feature* parent)
+    friend class Feature;
+    FeatureList& Siblings(Feature* parent)
     {
         return parent == nullptr ? _roots : parent->_children;
     }
-    void Attach(Feature& feature, Feature* parent, const Feature* before);
-    void Unlink(Feature& feature);
-    static void Dispose(std::vector<Feature*> features);
+    void Attach(Feature& feature, Feature* parent, Feature* before);
+    static void Dispose(Feature* doomed);
 
     Document* _document;
-    std::vector<Feature*> _roots;
+    FeatureList _roots;
     FeatureIndex _index;
     FeatureId _nextId = 1;
+    std::uint64_t _changes = 0;
 };
+
+template <class Visit>
+void FeatureTree::Walk(Feature& root, Visit&& visit)
+{
+    Feature* feature = &root;
+    int depth = 0;
+    for (;;) {
+        visit(*feature, depth);
+        if (!feature->_children.empty()) {
+            feature = feature->_children.front();
+            ++depth;
+            continue;
+        }
+        while (feature != &root && feature->_next == nullptr) {
+            feature = feature->_parent;
+            --depth;
+        }
+        if (feature == &root) {
+            return;
+        }
+        feature = feature->_next;
+    }
+}
 
 }  // namespace vex

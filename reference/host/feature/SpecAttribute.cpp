@@ -48,7 +48,7 @@ const std::string& SpecAttribute::Name() const
 VEXISpecObject* SpecAttributeAdapter::GetValueObject() const
 {
     return Probe<"VEXISpecAttribute::GetValueObject">(
-        [&] { return AsSpecObject(Self().Target()).Detach(); });
+        [&] { return FaceOf<VEXISpecObject>(Self().Target()).Detach(); });
 }
 
 VEXUnicodeString SpecAttributeAdapter::GetName() const

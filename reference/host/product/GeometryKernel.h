@@ -99,8 +99,9 @@ public:
     virtual bool ReadStep(const std::string& path, ImportedAssembly& out, std::string& error) = 0;
 
     // Makes a model of bytes that came from ReadStep and whose digest was checked; null with a
-    // reason in `error` when they are no shape. Damaged bytes are found as far as the kernel finds
-    // them, hence the digest.
+    // reason in `error` when they are no shape. The kernel sees them in a child process first, so
+    // that no bytes can end or block this one. Damage that gives another shape is not found, hence
+    // the digest.
     virtual std::unique_ptr<ShapeModel> LoadShape(std::span<const std::byte> bytes,
                                                   std::string& error) = 0;
 };

@@ -3,6 +3,7 @@
 #include "host/product/ProductStructure.h"
 
 #include "host/feature/DocumentSession.h"
+#include "host/system/MessageTexts.h"
 
 #include <unordered_set>
 
@@ -62,7 +63,15 @@ Document* LinkedDocument(const Feature& node, std::string& error)
         return nullptr;
     }
     const std::string& path = node.GetAs<DocumentLink>("Document").path;
-    return path.empty() ? nullptr : DocumentSession::Instance().OpenLinked(path, error);
+    Document* const linked =
+        path.empty() ? nullptr : DocumentSession::Instance().OpenLinked(path, error);
+    if (linked == nullptr || linked->DocType() != DocumentType::Analysis) {
+        return linked;
+    }
+    error = system::Quoted(path) +
+            ": it is an analysis document, which cannot be used in a "
+            "product. Put the product or part back in its place.";
+    return nullptr;
 }
 
 bool StructureBelow(const Feature& object, std::vector<Feature*>& below, std::string& error)
@@ -91,7 +100,7 @@ bool AllBelow(Feature& object, std::vector<Feature*>& below, std::string& error)
         if (next != &object) {
             below.push_back(next);
         }
-        std::vector<Feature*> children = next->Children();
+        std::vector<Feature*> children(next->Children().begin(), next->Children().end());
         const Document* const linked = LinkedDocument(*next, error);
         if (linked == nullptr && !error.empty()) {
             return false;

@@ -28,7 +28,7 @@ VEX_EXPORT Feature* RootObject(const Document& document);
 
 /// Opens the document that a node links to if it is not open yet. Null without an error for a node
 /// that links to none and for other features; null with the reason in `error` when it cannot be
-/// opened.
+/// opened or is neither product nor part.
 VEX_EXPORT Document* LinkedDocument(const Feature& node, std::string& error);
 
 /// What stands below an object in the product structure: its own children, then what the document

@@ -77,6 +77,9 @@ bool AttributeUnpacker::TakeValue(Attribute& attribute)
             return Take(size) && TakeDoubles(size, attribute.doubles);
         case AttributeKind::Table: {
             if (!Take(attribute.rows) || !Take(attribute.columns)) return false;
+            if (attribute.columns == 0 && attribute.rows != 0) {
+                return Refuse("a table attribute has rows without columns");
+            }
             // The product of two numbers of 32 bits fits into 64.
             return TakeDoubles(std::uint64_t{attribute.rows} * attribute.columns,
                                attribute.doubles);

@@ -23,6 +23,9 @@ public:
     /// The next attribute. False at the end, and at the first fault.
     bool Next(Attribute& attribute);
 
+    /// How many are still to come, as the bytes have it.
+    std::uint16_t Left() const { return _left; }
+
     /// What is wrong with the bytes: a constant text, null as long as nothing is.
     const char* Fault() const { return _fault; }
 

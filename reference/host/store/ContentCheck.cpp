@@ -7,6 +7,7 @@
 #include "host/store/ContentCheck.h"
 
 #include "host/store/AttributeUnpacker.h"
+#include "host/store/IdSet.h"
 #include "host/system/LittleEndian.h"
 #include "host/system/MessageTexts.h"
 
@@ -58,19 +59,6 @@ void AddToDigest(const FeatureRow& feature, std::int64_t ordinal, system::Digest
 void Remember(std::vector<Id>& ids, Id id)
 {
     if (id != 0 && (ids.empty() || ids.back() != id)) ids.push_back(id);
-}
-
-// The first of `wanted` that `sorted` does not have, or 0.
-Id FirstMissing(const std::vector<Id>& sorted, const std::vector<Id>& wanted)
-{
-    const bool dense =
-        !sorted.empty() && sorted.back() - sorted.front() == static_cast<Id>(sorted.size()) - 1;
-    for (const Id id : wanted) {
-        const bool found = dense ? id >= sorted.front() && id <= sorted.back()
-                                 : std::binary_search(sorted.begin(), sorted.end(), id);
-        if (!found) return id;
-    }
-    return 0;
 }
 
 std::string At(const FeatureRow& feature, std::string_view reason)
@@ -200,29 +188,24 @@ bool ContentCheck::AddFeature(const FeatureRow& feature, Place& place, std::stri
 
 bool ContentCheck::Finish(std::string& reason)
 {
-    if (!std::is_sorted(_ids.begin(), _ids.end())) std::sort(_ids.begin(), _ids.end());
-    const auto twice = std::adjacent_find(_ids.begin(), _ids.end());
-    if (twice != _ids.end()) {
-        reason = fmt::format("feature {}: its id stands twice", *twice);
-        return false;
-    }
-    if (const Id id = FirstMissing(_ids, _referenced); id != 0) {
+    const IdSet features(std::exchange(_ids, {}));
+    const IdSet links(std::exchange(_links, {}));
+    if (features.Twice() != 0) {
+        reason = fmt::format("feature {}: its id stands twice", features.Twice());
+    } else if (const Id id = features.FirstMissing(_referenced); id != 0) {
         reason = fmt::format("an attribute refers to feature {}, which does not exist", id);
-        return false;
+    } else if (const Id link = links.FirstMissing(_linked); link != 0) {
+        reason = fmt::format("an attribute refers to link {}, which does not exist", link);
     }
-    if (const Id id = FirstMissing(_links, _linked); id != 0) {
-        reason = fmt::format("an attribute refers to link {}, which does not exist", id);
-        return false;
-    }
-    return true;
+    return reason.empty();
 }
 
-system::Digest ContentCheck::ContentDigest(DocumentKind kind, int version) const
+system::Digest ContentCheck::ContentDigest(DocumentKind kind, int version)
 {
     system::DigestStream whole;
     whole.AddNumber(version);
     whole.AddText(NameOf(kind));
-    const auto table = [&](std::int64_t count, const system::DigestStream& rows) {
+    const auto table = [&](std::int64_t count, system::DigestStream& rows) {
         const system::Digest digest = rows.Result();
         whole.AddNumber(count);
         whole.Add(digest.data(), digest.size());

@@ -38,7 +38,7 @@ public:
     const RowCounts& Counts() const { return _counts; }
 
     /// The digest of the whole content, with kind and version.
-    system::Digest ContentDigest(DocumentKind kind, int version) const;
+    system::Digest ContentDigest(DocumentKind kind, int version);
 
 private:
     struct Ancestor

@@ -38,6 +38,7 @@ bool DocumentReader::Open(std::string_view path, std::string& error, int newestD
     _check = ContentCheck();
     _fault.clear();
     _bytesRead = 0;
+    _summary.reset();
     _atEnd = false;
     _lateTypes.clear();
     _attributeNames.clear();
@@ -58,6 +59,9 @@ bool DocumentReader::Open(std::string_view path, std::string& error, int newestD
     std::string reason;
     if (_database.OpenForReading(_file.Number(), reason) &&
         DocumentSchema().Matches(_database, reason) && ReadTables(reason)) {
+        // Before the features are read: should the file change meanwhile, the summary is of no
+        // file.
+        if (_geometryIds.empty()) _summary = system::SummaryOfFile(_file.Number());
         return true;
     }
     Close();
@@ -102,10 +106,8 @@ bool DocumentReader::ReadFeature(FeatureRow& feature, std::string& reason)
     if (feature.lateType != lateType) return refuse("its late type does not exist");
     feature.alias.reset();
     if (hasAlias) feature.alias = alias;
-    // Rows that share their bytes would make a small file cost time without end.
-    _bytesRead += alias.size() + feature.attributes.size();
-    if (_bytesRead > _fileSize) return refuse("the rows hold more bytes than the file has");
     std::string fault;
+    if (!Account(alias.size() + feature.attributes.size(), fault)) return refuse(fault);
     if (!_check.AddFeature(feature, _place, fault)) return refuse(fault);
     if (ordinal != _place.ordinal) {
         return refuse(fmt::format("its ordinal is {} instead of {}", ordinal, _place.ordinal));

@@ -9,7 +9,9 @@
 #include "host/store/Rows.h"
 #include "host/system/Database.h"
 #include "host/system/Descriptor.h"
+#include "host/system/FileBytes.h"
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -53,6 +55,10 @@ public:
     /// The ids of the geometry blobs, ascending.
     std::span<const Id> Geometries() const { return _geometryIds; }
 
+    /// What a file must hold to be this one, for CopyDocumentFile. None for a document with
+    /// geometry: that is not read before it is asked for.
+    const std::optional<system::FileSummary>& Summary() const { return _summary; }
+
     /// The next feature, in the order of DocumentWriter; its texts and bytes live until the next
     /// call. False at the end and at a fault: Finish tells which.
     bool Next(FeatureRow& feature);
@@ -81,6 +87,7 @@ private:
     bool ReadFeature(FeatureRow& feature, std::string& reason);
     bool CheckWhole(std::string& reason);
     bool Ended(int result, std::string& reason);
+    bool Account(std::size_t bytes, std::string& reason);
 
     std::string _path;
     system::Descriptor _file;
@@ -90,6 +97,7 @@ private:
     ContentCheck::Place _place;
     std::string _fault;  // found by Next
     std::uint64_t _fileSize = 0;
+    std::optional<system::FileSummary> _summary;
     std::uint64_t _bytesRead = 0;
     bool _atEnd = false;
     bool _finished = false;

@@ -51,6 +51,7 @@ bool DocumentWriter::Begin(std::string_view path, DocumentKind kind, int dataVer
     _kind = kind;
     _dataVersion = dataVersion;
     _check = ContentCheck();
+    _summary.reset();
     _lateTypes.clear();
     _attributeNames.clear();
     std::string reason;
@@ -198,7 +199,11 @@ bool DocumentWriter::Commit(std::string& error)
     std::string reason;
     if (_error.empty() && !_check.Finish(reason)) Refuse(reason);
     if (_error.empty() && !WriteRest(reason)) FailWriting(reason);
+    if (_error.empty() && _check.Counts().geometries == 0) {
+        _summary = system::SummaryOfFile(_file.File());
+    }
     if (_error.empty() && _file.Commit(_error)) return true;
+    _summary.reset();
     error = _error;
     return false;
 }

@@ -10,6 +10,7 @@
 #include "host/store/Rows.h"
 #include "host/system/AtomicFile.h"
 #include "host/system/Database.h"
+#include "host/system/FileBytes.h"
 
 #include <map>
 #include <optional>
@@ -57,6 +58,10 @@ public:
     /// Ends the save. False with the message of its first failure.
     bool Commit(std::string& error);
 
+    /// What a file must hold to be the one saved, for CopyDocumentFile; after a successful Commit.
+    /// None for a document with geometry: its file may be too large to be read a second time.
+    const std::optional<system::FileSummary>& Summary() const { return _summary; }
+
 private:
     using Names = std::map<std::string, NameIndex, std::less<>>;
     using AddName = bool (ContentCheck::*)(std::string_view, std::string&);
@@ -74,6 +79,7 @@ private:
     DocumentKind _kind = DocumentKind::Analysis;
     int _dataVersion = kDataVersion;
     std::string _error;  // of the first failure
+    std::optional<system::FileSummary> _summary;
     system::AtomicFile _file;
     system::Database _database;
     system::Statement _insertLink;

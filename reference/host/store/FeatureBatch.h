@@ -48,8 +48,7 @@ private:
 
     system::Statement _insert;
     std::vector<Waiting> _waiting;
-    std::vector<char> _bytes;    // aliases and attributes of the waiting rows
-    std::int64_t _inserted = 0;  // rows in the database
+    std::vector<char> _bytes;  // aliases and attributes of the waiting rows
 };
 
 }  // namespace vex::store

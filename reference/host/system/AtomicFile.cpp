@@ -5,16 +5,15 @@
 #include "host/system/FileOperations.h"
 #include "host/system/MessageTexts.h"
 #include "host/system/Path.h"
+#include "host/system/UnfinishedFile.h"
 
 #include <fmt/format.h>
 
-#include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
 
 #include <fcntl.h>
-#include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,18 +21,6 @@ namespace vex::system {
 namespace {
 
 constexpr unsigned kPermissionBits = 07777;
-
-// Eight bytes to follow the file's name: a dot, six characters by chance, a tilde.
-std::string UniqueEnding()
-{
-    constexpr std::string_view kCharacters = "0123456789abcdefghijklmnopqrstuv";
-    std::array<unsigned char, 6> chance{};
-    if (getentropy(chance.data(), chance.size()) != 0) chance.fill(0);
-    std::string ending = ".";
-    for (const unsigned char c : chance)
-        ending += kCharacters[c % kCharacters.size()];
-    return ending + "~";
-}
 
 }  // namespace
 
@@ -70,22 +57,6 @@ bool AtomicFile::ResolveTarget(std::string_view path, std::string& target, std::
     return CheckPath(target, error);
 }
 
-bool AtomicFile::CreateBeside(unsigned mode, std::string& error)
-{
-    for (int attempt = 0;; ++attempt) {
-        std::string temporary = _target + UniqueEnding();
-        const int file = CurrentFileOperations().create(temporary, mode);
-        if (file >= 0) {
-            _file = Descriptor(file);
-            _temporary = std::move(temporary);
-            return true;
-        }
-        if (file != -EEXIST || attempt == 100) {
-            return Fail("making the new file beside it", -file, error);
-        }
-    }
-}
-
 bool AtomicFile::Begin(std::string_view path, std::string& error)
 {
     Discard();
@@ -107,12 +78,16 @@ bool AtomicFile::Begin(std::string_view path, std::string& error)
         ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
     if (!_folder.IsOpen()) return Fail("opening its folder", errno, error);
 
+    // First, so that the room of what is removed can be used.
+    RemoveAbandonedFiles(_folder.Number(), _target, exists ? old.st_uid : ::geteuid());
     const unsigned mode = exists ? old.st_mode & kPermissionBits : 0666U;
-    if (!CreateBeside(mode & 0777U, error)) return false;
+    const int made = MakeUnfinishedFile(_target, mode & 0777U, _temporary);
+    if (made < 0) return Fail("making the new file beside it", -made, error);
+    _file = Descriptor(made);
     if (!exists) return true;
-    struct stat made = {};
-    if (::fstat(_file.Number(), &made) != 0) return Fail("looking at the new file", errno, error);
-    const bool ownerDiffers = made.st_uid != old.st_uid || made.st_gid != old.st_gid;
+    struct stat now = {};
+    if (::fstat(_file.Number(), &now) != 0) return Fail("looking at the new file", errno, error);
+    const bool ownerDiffers = now.st_uid != old.st_uid || now.st_gid != old.st_gid;
     // Only a privileged process can keep another's ownership; for others the file becomes theirs.
     if (ownerDiffers && ::fchown(_file.Number(), old.st_uid, old.st_gid) != 0 && errno != EPERM) {
         return Fail("keeping the file's owner", errno, error);
@@ -132,11 +107,12 @@ bool AtomicFile::Commit(std::string& error)
     FileOperations& operations = CurrentFileOperations();
     const int synchronized = operations.synchronize(_file.Number());
     if (synchronized < 0) return Fail("putting the new file on the disk", -synchronized, error);
-    const int closed = _file.Close();
-    if (closed != 0) return Fail("closing the new file", closed, error);
+    // The file stays open, and with it the lock that keeps it, until it has its name. Closing it
+    // can report nothing that synchronising it did not.
     const int renamed = operations.rename(_temporary, _target);
     if (renamed < 0) return Fail("giving the new file its name", -renamed, error);
     _temporary.clear();
+    _file.Close();
     const int named = operations.synchronizeFolder(_folder.Number());
     _folder.Close();
     if (named < 0) {
@@ -151,10 +127,10 @@ bool AtomicFile::Commit(std::string& error)
 
 void AtomicFile::Discard()
 {
-    _file.Close();
-    _folder.Close();
     if (!_temporary.empty()) CurrentFileOperations().remove(_temporary);
     _temporary.clear();
+    _file.Close();
+    _folder.Close();
 }
 
 }  // namespace vex::system

@@ -13,12 +13,15 @@ namespace vex::system {
 
 /// One replacement: `Begin` makes a new file beside the old one, the caller writes its content,
 /// `Commit` synchronises it, renames it over the old one and synchronises the folder. Without a
-/// successful `Commit` the new file is removed and the old one is untouched.
+/// successful `Commit` the new file is removed and the old one is untouched. A process that dies
+/// in between leaves its new file (see UnfinishedFile.h); `Begin` of the next replacement of the
+/// same file removes it.
 ///
 /// The new file has the permissions of the file it replaces, and its owner as far as the process
-/// may give it. A symbolic link is followed: the file it leads to is replaced. A file that the
-/// process may not write is refused, although its folder would let it be replaced.
-/// All changes to the disk go through CurrentFileOperations().
+/// may give it. A symbolic link is followed: the file it leads to is replaced. Of several hard
+/// links the one named is replaced; the others keep the old content. A file that the process may
+/// not write is refused, although its folder would let it be replaced. All changes to the disk go
+/// through CurrentFileOperations().
 class VEX_EXPORT AtomicFile
 {
 public:
@@ -51,7 +54,6 @@ public:
                                std::string_view reason);
 
 private:
-    bool CreateBeside(unsigned mode, std::string& error);
     bool Fail(std::string_view step, int code, std::string& error);
 
     std::string _target;     // the file to be replaced, links resolved

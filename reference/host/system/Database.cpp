@@ -116,28 +116,32 @@ bool Statement::Prepare(Database& database, const char* sql, std::string& reason
     return false;
 }
 
+// The value as a whole costs one call into the statement; what is asked of it then costs none.
 bool Statement::Get(int column, std::int64_t& number)
 {
-    if (sqlite3_column_type(_statement.get(), column) != SQLITE_INTEGER) return false;
-    number = sqlite3_column_int64(_statement.get(), column);
+    sqlite3_value* value = sqlite3_column_value(_statement.get(), column);
+    if (sqlite3_value_type(value) != SQLITE_INTEGER) return false;
+    number = sqlite3_value_int64(value);
     return true;
 }
 
 bool Statement::Get(int column, std::string_view& text)
 {
-    if (sqlite3_column_type(_statement.get(), column) != SQLITE_TEXT) return false;
-    const unsigned char* characters = sqlite3_column_text(_statement.get(), column);
+    sqlite3_value* value = sqlite3_column_value(_statement.get(), column);
+    if (sqlite3_value_type(value) != SQLITE_TEXT) return false;
+    const unsigned char* characters = sqlite3_value_text(value);
     if (characters == nullptr) return false;  // no memory
-    const int size = sqlite3_column_bytes(_statement.get(), column);
+    const int size = sqlite3_value_bytes(value);
     text = {reinterpret_cast<const char*>(characters), static_cast<std::size_t>(size)};
     return true;
 }
 
 bool Statement::Get(int column, std::span<const std::byte>& bytes)
 {
-    if (sqlite3_column_type(_statement.get(), column) != SQLITE_BLOB) return false;
-    const void* start = sqlite3_column_blob(_statement.get(), column);
-    const int size = sqlite3_column_bytes(_statement.get(), column);
+    sqlite3_value* value = sqlite3_column_value(_statement.get(), column);
+    if (sqlite3_value_type(value) != SQLITE_BLOB) return false;
+    const void* start = sqlite3_value_blob(value);
+    const int size = sqlite3_value_bytes(value);
     if (start == nullptr && size != 0) return false;  // no memory
     bytes = {static_cast<const std::byte*>(start), static_cast<std::size_t>(size)};
     return true;

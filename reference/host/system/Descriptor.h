@@ -29,6 +29,9 @@ public:
     int Number() const { return _number; }
     bool IsOpen() const { return _number >= 0; }
 
+    /// Hands the number to the caller, who owns it from then on.
+    int Release() { return std::exchange(_number, -1); }
+
     /// Closes the file now. Returns 0, or the error number by which closing reports that bytes
     /// written earlier were lost.
     int Close();

@@ -44,9 +44,15 @@ DigestStream::~DigestStream() = default;
 DigestStream::DigestStream(DigestStream&&) noexcept = default;
 DigestStream& DigestStream::operator=(DigestStream&&) noexcept = default;
 
-void DigestStream::Add(const void* bytes, std::size_t size)
+void DigestStream::AddNow(const void* bytes, std::size_t size)
 {
-    if (size > 0) XXH3_128bits_update(_state.get(), bytes, size);
+    XXH3_128bits_update(_state.get(), bytes, size);
+}
+
+void DigestStream::AddWaiting()
+{
+    AddNow(_waiting.data(), _waitingSize);
+    _waitingSize = 0;
 }
 
 void DigestStream::AddNumber(std::int64_t number)
@@ -62,8 +68,9 @@ void DigestStream::AddText(std::string_view text)
     Add(text.data(), text.size());
 }
 
-Digest DigestStream::Result() const
+Digest DigestStream::Result()
 {
+    AddWaiting();
     return Canonical(XXH3_128bits_digest(_state.get()));
 }
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -29,19 +30,35 @@ public:
     DigestStream(DigestStream&&) noexcept;
     DigestStream& operator=(DigestStream&&) noexcept;
 
-    void Add(const void* bytes, std::size_t size);
+    void Add(const void* bytes, std::size_t size)
+    {
+        if (size > _waiting.size() - _waitingSize) {
+            AddWaiting();
+        }
+        if (size > _waiting.size()) {
+            AddNow(bytes, size);
+        } else if (size > 0) {
+            std::memcpy(_waiting.data() + _waitingSize, bytes, size);
+            _waitingSize += size;
+        }
+    }
     void AddNumber(std::int64_t number);
     void AddText(std::string_view text);
 
     /// The digest of everything added so far; more may be added.
-    Digest Result() const;
+    Digest Result();
 
 private:
+    void AddNow(const void* bytes, std::size_t size);
+    void AddWaiting();
+
     struct Free
     {
         void operator()(XXH3_state_s* state) const;
     };
     std::unique_ptr<XXH3_state_s, Free> _state;
+    std::array<std::byte, 1024> _waiting{};  ///< many small pieces go in together: that is faster
+    std::size_t _waitingSize = 0;
 };
 
 }  // namespace vex::system

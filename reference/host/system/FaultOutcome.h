@@ -11,7 +11,7 @@
 
 namespace vex::probe {
 
-struct FaultOutcome
+struct VEX_EXPORT FaultOutcome
 {
     enum class Kind : std::uint8_t {
         Code,   ///< a result code by name, or a number
@@ -27,7 +27,7 @@ struct FaultOutcome
 };
 
 /// Reads "E_FAIL", "-1", "0x80004005", "null", "empty" or a code with ",keep".
-bool ParseOutcome(std::string_view text, FaultOutcome& outcome, std::string& error);
+VEX_EXPORT bool ParseOutcome(std::string_view text, FaultOutcome& outcome, std::string& error);
 
 /// The outcomes that fit the operation and change what its caller sees, the plainest first.
 std::vector<std::string_view> WaysToBreak(const PointDefinition& point);

@@ -3,6 +3,7 @@
 #include "host/system/FaultScript.h"
 
 #include "host/system/ProbePoints.h"
+#include "host/system/Texts.h"
 
 #include <fmt/format.h>
 
@@ -19,11 +20,6 @@ std::string_view Trimmed(std::string_view text)
         return {};
     }
     return text.substr(first, text.find_last_not_of(" \t\n\r") - first + 1);
-}
-
-std::string Quoted(std::string_view text)
-{
-    return TextOf(std::string(text).c_str());
 }
 
 bool MatchesPart(std::string_view pattern, std::string_view text)
@@ -85,7 +81,7 @@ bool FaultScript::Parse(std::string_view script, std::string& error)
         if (!text.empty()) {
             const auto column = static_cast<std::size_t>(text.data() - script.data()) + 1;
             std::string place =
-                fmt::format("fault {} (character {}) {}: ", item, column, Quoted(text));
+                fmt::format("fault {} (character {}) {}: ", item, column, text::DoubleQuoted(text));
             if (!ParseItem(text, std::move(place), faults, error)) {
                 return false;
             }
@@ -140,7 +136,7 @@ bool FaultScript::Check(const Fault& fault, std::string& error)
     if (!pattern.IsOpen() && !pattern.IsCast()) {
         const PointDefinition* const point = FindPoint(pattern.Text());
         if (point == nullptr) {
-            return refuse("no operation is named " + Quoted(pattern.Text()) +
+            return refuse("no operation is named " + text::DoubleQuoted(pattern.Text()) +
                           ": 'hlx probes' lists all names");
         }
         if (!fault.outcome.Fits(*point)) {
@@ -153,7 +149,7 @@ bool FaultScript::Check(const Fault& fault, std::string& error)
         const std::string_view interface = pattern.Interface();
         if (pattern.Component().empty() ||
             (!interface.ends_with('*') && !IsInterfaceName(interface))) {
-            return refuse("no interface is named " + Quoted(interface) +
+            return refuse("no interface is named " + text::DoubleQuoted(interface) +
                           ", or no component stands before it: write cast:COMPONENT->INTERFACE");
         }
     } else if (pattern.IsCast() && !pattern.IsOpen()) {
@@ -182,8 +178,8 @@ bool FaultScript::CheckComponents(std::string& error) const
     for (const Fault& fault : _faults) {
         const std::string_view component = fault.pattern.Component();
         if (!component.empty() && !component.ends_with('*') && !IsComponentName(component)) {
-            error = fault.place + "no component or late type is named " + Quoted(component) +
-                    ": 'hlx probes' lists all names";
+            error = fault.place + "no component or late type is named " +
+                    text::DoubleQuoted(component) + ": 'hlx probes' lists all names";
             return false;
         }
     }

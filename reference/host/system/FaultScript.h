@@ -13,7 +13,7 @@
 namespace vex::probe {
 
 /// Names by their text, the last or (of a cast) each of the two parts open when it ends in '*'.
-class NamePattern
+class VEX_EXPORT NamePattern
 {
 public:
     explicit NamePattern(std::string_view text);
@@ -32,7 +32,7 @@ private:
     bool _open;
 };
 
-class FaultScript
+class VEX_EXPORT FaultScript
 {
 public:
     /// False with the reason, the item and its place in `error`; the script is then as it was.

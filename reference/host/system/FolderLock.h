@@ -12,9 +12,10 @@ namespace vex::system {
 class FolderLock
 {
 public:
-    /// Waits at most five seconds for the lock. False with a message when the folder cannot be
-    /// opened or another process keeps the lock that long. Where the file system has no locks the
-    /// answer is true: a replaced file is whole even so, only the last writer wins.
+    /// Waits for the lock as long as others finish what they do in the folder, at most a minute.
+    /// False with a message when the folder cannot be opened, or when another process keeps the
+    /// lock and for five seconds nothing changes in the folder. Where the file system has no locks
+    /// the answer is true: a replaced file is whole even so, only the last writer wins.
     bool Take(const std::string& folder, std::string& error);
 
 private:

@@ -2,8 +2,10 @@
 // Unsigned integers as little-endian bytes, whatever the machine's own order.
 #pragma once
 
+#include <bit>
 #include <concepts>
 #include <cstddef>
+#include <cstring>
 
 namespace vex::system {
 
@@ -11,8 +13,12 @@ namespace vex::system {
 template <std::unsigned_integral Number>
 void StoreLittleEndian(std::byte* bytes, Number value)
 {
-    for (std::size_t i = 0; i < sizeof(Number); ++i) {
-        bytes[i] = static_cast<std::byte>((value >> (8 * i)) & 0xFFU);
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(bytes, &value, sizeof value);
+    } else {
+        for (std::size_t i = 0; i < sizeof(Number); ++i) {
+            bytes[i] = static_cast<std::byte>((value >> (8 * i)) & 0xFFU);
+        }
     }
 }
 
@@ -21,8 +27,12 @@ template <std::unsigned_integral Number>
 Number LoadLittleEndian(const std::byte* bytes)
 {
     Number value = 0;
-    for (std::size_t i = 0; i < sizeof(Number); ++i) {
-        value = static_cast<Number>(value | (static_cast<Number>(bytes[i]) << (8 * i)));
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(&value, bytes, sizeof value);
+    } else {
+        for (std::size_t i = 0; i < sizeof(Number); ++i) {
+            value = static_cast<Number>(value | (static_cast<Number>(bytes[i]) << (8 * i)));
+        }
     }
     return value;
 }

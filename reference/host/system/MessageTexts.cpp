@@ -6,7 +6,6 @@
 
 #include <fmt/format.h>
 
-#include <cstdint>
 #include <cstring>
 
 namespace vex::system {
@@ -33,13 +32,6 @@ std::string Escaped(std::string_view text, bool escapeSingleQuotes)
 
 const char* TextFault(std::string_view text)
 {
-    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
-    constexpr std::uint64_t kOnes = 0x0101010101010101U;
-    // Most texts are plain ASCII: eight characters at a time, none of them NUL.
-    for (std::uint64_t word = 0; text.size() >= sizeof word; text.remove_prefix(sizeof word)) {
-        std::memcpy(&word, text.data(), sizeof word);
-        if ((((word - kOnes) | word) & kHighBits) != 0) break;
-    }
     if (text::IsValid(text)) return nullptr;
     return text.find('\0') == std::string_view::npos ? "holds bytes that are not valid UTF-8"
                                                      : "holds a NUL character";

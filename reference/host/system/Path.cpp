@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-// Checks paths of stored files.
+// Checks paths of stored files, and takes paths apart.
 #include "host/system/Path.h"
 
 #include "host/system/MessageTexts.h"
 
 #include <fmt/format.h>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace vex::system {
 
@@ -32,6 +35,19 @@ std::string FolderOf(std::string_view path)
     const std::size_t slash = path.rfind('/');
     if (slash == std::string_view::npos) return ".";
     return std::string(path.substr(0, slash == 0 ? 1 : slash));
+}
+
+std::vector<std::string> FoldersNamedIn(const char* variable)
+{
+    std::vector<std::string> folders;
+    const char* const setting = std::getenv(variable);
+    std::string_view rest = setting == nullptr ? "" : setting;
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find(':'), rest.size());
+        if (end > 0) folders.emplace_back(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return folders;
 }
 
 }  // namespace vex::system

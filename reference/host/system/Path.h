@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vex::system {
 
@@ -21,5 +22,9 @@ VEX_EXPORT bool CheckPath(std::string_view path, std::string& error);
 
 /// The path of the folder that holds `path`: "." when it has no folder part.
 VEX_EXPORT std::string FolderOf(std::string_view path);
+
+/// The folders that the environment variable names, in order, separated by ':'; empty ones are left
+/// out. None when it is not set.
+VEX_EXPORT std::vector<std::string> FoldersNamedIn(const char* variable);
 
 }  // namespace vex::system

@@ -12,19 +12,12 @@ namespace vex::probe {
 
 std::string TextOf(const char* text)
 {
-    if (text == nullptr) {
-        return "null";
-    }
-    std::string quoted;
-    text::AppendQuoted(quoted, text);
-    return quoted;
+    return text == nullptr ? "null" : text::DoubleQuoted(text);
 }
 
 std::string TextOf(const VEXUnicodeString& text)
 {
-    std::string quoted;
-    text::AppendQuoted(quoted, text.View());
-    return quoted;
+    return text::DoubleQuoted(text.View());
 }
 
 std::string TextOfNumber(std::int64_t number)

@@ -9,7 +9,7 @@ namespace vex::system {
 
 /// Reads the settings of `path` into `settings`; none when there is no such file. False with a
 /// message when it cannot be read, is no settings file, is newer or damaged; `settings` is then
-/// empty.
+/// empty. What it answers is what was written: all settings are checked against their digest.
 bool ReadSettings(const std::string& path,
                   std::map<std::string, std::string, std::less<>>& settings, std::string& error);
 

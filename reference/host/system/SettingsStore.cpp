@@ -3,6 +3,8 @@
 #include "host/system/SettingsStore.h"
 
 #include "host/system/AtomicFile.h"
+#include "host/system/Descriptor.h"
+#include "host/system/FileOperations.h"
 #include "host/system/FolderLock.h"
 #include "host/system/MessageTexts.h"
 #include "host/system/Path.h"
@@ -10,8 +12,11 @@
 
 #include <fmt/format.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+
+#include <fcntl.h>
 
 namespace vex::system {
 namespace {
@@ -20,6 +25,22 @@ std::string Variable(const char* name)
 {
     const char* value = std::getenv(name);
     return value != nullptr ? value : "";
+}
+
+// Makes `folder` and those above it that are missing, each with its name on the disk: settings are
+// not safe in a folder that is lost. Answers 0 or an error number.
+int MakeFolder(const std::filesystem::path& folder)
+{
+    std::error_code code;
+    if (folder.empty() || std::filesystem::is_directory(folder, code)) return 0;
+    if (code && code.value() != ENOENT && code.value() != ENOTDIR) return code.value();
+    const std::filesystem::path above = folder.parent_path();
+    if (const int failed = MakeFolder(above); failed != 0) return failed;
+    if (!std::filesystem::create_directory(folder, code)) return code.value();
+    const Descriptor opened(Descriptor::AboveStandardStreams(
+        ::open(above.empty() ? "." : above.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
+    if (!opened.IsOpen()) return errno;
+    return -CurrentFileOperations().synchronizeFolder(opened.Number());
 }
 
 }  // namespace
@@ -72,13 +93,11 @@ bool SettingsStore::Commit(std::string& error)
     if (_changes.empty()) return true;
     if (!CheckPath(_path, error)) return false;
     const std::string folder = FolderOf(_path);
-    std::error_code code;
-    std::filesystem::create_directories(folder, code);
-    if (code) {
+    if (const int failed = MakeFolder(folder); failed != 0) {
         error = fmt::format(
             "{}: the folder of the settings cannot be made: {}. Check the path and "
             "the permissions.",
-            Quoted(folder), SystemReason(code.value()));
+            Quoted(folder), SystemReason(failed));
         return false;
     }
     // Between reading and replacing the file nobody else may replace it: his settings would be

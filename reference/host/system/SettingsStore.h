@@ -12,8 +12,14 @@
 namespace vex::system {
 
 /// The settings of one repository file, as read from it and changed since. A file that does not
-/// exist holds no settings. A damaged file is refused and stays as it is: settings are never
-/// silently lost. Not for use by several threads at once; several processes may use one file.
+/// exist holds no settings. Not for use by several threads at once; several processes may use one
+/// file.
+///
+/// A file that is damaged in any way (empty, cut off, changed in a place that holds settings or
+/// leads to them), that a newer program wrote or that is none of settings is refused by Load and by
+/// Commit, with its path, the reason and the remedy, and stays byte for byte as it is: settings are
+/// never silently lost nor changed. Once it is restored or taken away, Commit goes on with what was
+/// set. Only bytes that mean nothing may change unnoticed; the next Commit writes them anew.
 class VEX_EXPORT SettingsStore
 {
 public:

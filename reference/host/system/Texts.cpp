@@ -3,6 +3,8 @@
 #include "host/system/Texts.h"
 
 #include <charconv>
+#include <cstdint>
+#include <cstring>
 
 namespace vex::text {
 
@@ -53,11 +55,41 @@ void AppendCodePoint(std::string& out, char32_t point)
     out += '}';
 }
 
+/// Length of the ASCII at the start of `text`, up to a NUL: most texts are nothing else.
+std::size_t AsciiLength(std::string_view text)
+{
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    constexpr std::uint64_t ones = 0x0101010101010101U;
+    std::size_t length = 0;
+    for (std::uint64_t word = 0; text.size() - length >= sizeof word; length += sizeof word) {
+        std::memcpy(&word, text.data() + length, sizeof word);
+        if ((((word - ones) | word) & highBits) != 0) {
+            break;
+        }
+    }
+    while (length < text.size() && static_cast<signed char>(text[length]) > 0) {
+        ++length;
+    }
+    return length;
+}
+
+/// Length of what stands at the start of `text` and is quoted as it is.
+std::size_t UnescapedLength(std::string_view text)
+{
+    std::size_t length = 0;
+    while (length < text.size() && text[length] >= ' ' && text[length] < '\x7F' &&
+           text[length] != '"' && text[length] != '\\') {
+        ++length;
+    }
+    return length;
+}
+
 }  // namespace
 
 bool IsValid(std::string_view text)
 {
-    while (!text.empty()) {
+    for (text.remove_prefix(AsciiLength(text)); !text.empty();
+         text.remove_prefix(AsciiLength(text))) {
         char32_t point = 0;
         const std::size_t length = Decode(text, point);
         if (length == 0 || point == 0) {
@@ -71,7 +103,13 @@ bool IsValid(std::string_view text)
 void AppendQuoted(std::string& out, std::string_view text)
 {
     out += '"';
-    while (!text.empty()) {
+    for (;;) {
+        const std::size_t unescaped = UnescapedLength(text);
+        out.append(text, 0, unescaped);
+        text.remove_prefix(unescaped);
+        if (text.empty()) {
+            break;
+        }
         char32_t point = 0;
         const std::size_t length = Decode(text, point);
         if (length == 0) {
@@ -99,6 +137,13 @@ void AppendQuoted(std::string& out, std::string_view text)
         text.remove_prefix(length);
     }
     out += '"';
+}
+
+std::string DoubleQuoted(std::string_view text)
+{
+    std::string quoted;
+    AppendQuoted(quoted, text);
+    return quoted;
 }
 
 void AppendNumber(std::string& out, double number)

@@ -21,6 +21,9 @@ VEX_EXPORT bool IsValid(std::string_view text);
 /// a byte that is not valid UTF-8 is written \x and two hex digits.
 VEX_EXPORT void AppendQuoted(std::string& out, std::string_view text);
 
+/// The text as AppendQuoted writes it.
+VEX_EXPORT std::string DoubleQuoted(std::string_view text);
+
 /// Appends the shortest decimal text that reads back as the same number ("0.1", "1e+30", "nan",
 /// "-inf").
 VEX_EXPORT void AppendNumber(std::string& out, double number);

@@ -4,6 +4,7 @@
 #include "host/product/KernelModule.h"
 #include "host/system/MessageTexts.h"
 #include "host/topology/BRepShapeModel.h"
+#include "host/topology/ChildProcess.h"
 #include "host/topology/ShapeBytes.h"
 #include "host/topology/step/StepReader.h"
 
@@ -17,6 +18,8 @@
 #include <exception>
 #include <filesystem>
 #include <mutex>
+#include <stdexcept>
+#include <system_error>
 
 extern "C" {
 __attribute__((visibility("default"))) vex::GeometryKernel* VEXGeometryKernelInstance();
@@ -32,6 +35,40 @@ std::string OwnDirectory()
     Dl_info info{};
     if (dladdr(reinterpret_cast<const void*>(&VEXGeometryKernelVersion), &info) == 0) return {};
     return std::filesystem::path(info.dli_fname).parent_path().string();
+}
+
+std::unique_ptr<BRepShapeModel> ModelOf(std::span<const std::byte> bytes)
+{
+    try {
+        return std::make_unique<BRepShapeModel>(ReadShape(bytes));
+    } catch (const Standard_Failure& failure) {
+        throw std::runtime_error(std::string("the geometry kernel refuses the bytes (") +
+                                 failure.GetMessageString() + ")");
+    }
+}
+
+// Bytes that are no shape have crashed the kernel, and made it run for ever: they meet it in a
+// child process first. Throws what the kernel has against them.
+void TryOut(std::span<const std::byte> bytes)
+{
+    constexpr int seconds = 60;
+    const ChildOutcome outcome = RunInChild(
+        [&](const ChildReport&) {
+            ModelOf(bytes);
+            return std::vector<std::byte>();
+        },
+        seconds);
+    switch (outcome.end) {
+        case ChildOutcome::End::Done:
+            return;
+        case ChildOutcome::End::Failed:
+            throw std::runtime_error(outcome.text);
+        case ChildOutcome::End::Broken:
+            throw std::runtime_error("the geometry kernel breaks down over the bytes (" +
+                                     outcome.text + ")");
+        case ChildOutcome::End::TimedOut:
+            throw std::runtime_error("the geometry kernel does not get done with the bytes");
+    }
 }
 
 class TopologyKernel : public GeometryKernel
@@ -59,14 +96,13 @@ public:
                                           std::string& error) override
     {
         try {
-            return std::make_unique<BRepShapeModel>(ReadShape(bytes));
-        } catch (const Standard_Failure& failure) {
-            error = std::string("the geometry kernel refuses the bytes (") +
-                    failure.GetMessageString() + ")";
+            TryOut(bytes);
+            return ModelOf(bytes);
+        } catch (const std::system_error& failure) {
+            error = std::string(failure.what()) + ": free some memory and try again";
         } catch (const std::exception& failure) {
-            error = failure.what();
+            error = std::string(failure.what()) + ": import the part again";
         }
-        error += ": import the part again";
         return nullptr;
     }
 

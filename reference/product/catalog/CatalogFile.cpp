@@ -2,6 +2,7 @@
 // Reading the catalogue's text.
 #include "product/catalog/CatalogFile.h"
 
+#include "product/catalog/CatalogLimits.h"
 #include "product/catalog/CatalogMessage.h"
 #include "product/catalog/CatalogValue.h"
 
@@ -36,11 +37,16 @@ public:
 
     bool Read(std::string_view text)
     {
+        if (const std::size_t line = LineWithTooManyDots(text); line != 0) {
+            return Refuse(
+                line, {},
+                "more than " + std::to_string(mostDotsOfALine) + " dots in a line; break the line");
+        }
         const toml::parse_result parsed = toml::parse(text);
         if (parsed.failed()) {
-            return Refuse(
-                parsed.error().source().begin.line, {},
-                "no TOML: " + QuotedText(parsed.error().description()) + "; correct the line");
+            return Refuse(parsed.error().source().begin.line, {},
+                          "no TOML: " + vex::text::DoubleQuoted(parsed.error().description()) +
+                              "; correct the line");
         }
         const toml::table& root = parsed.table();
         const toml::node* const types = root.get("type");
@@ -57,6 +63,23 @@ public:
     }
 
 private:
+    /// What a type has, that of its bases included.
+    struct Known
+    {
+        std::set<std::string, std::less<>> names;  ///< of attributes
+        std::size_t held = 0;                      ///< see ThingsHeld; a base counts as one
+    };
+
+    bool Count(const toml::table& table, std::string_view entry, std::size_t held)
+    {
+        _held += held;
+        return _held <= mostThingsHeld ||
+               Refuse(LineOf(table), entry,
+                      "up to here the types hold, with what they inherit, more than " +
+                          std::to_string(mostThingsHeld) +
+                          " bases, attributes and numbers; make the catalogue smaller");
+    }
+
     static std::size_t LineOf(const toml::node& node) { return node.source().begin.line; }
 
     bool Refuse(std::size_t line, std::string_view entry, std::string_view reason)
@@ -70,9 +93,9 @@ private:
     {
         for (const auto& [key, node] : table) {
             if (std::ranges::find(known, key.str()) == known.end()) {
-                return Refuse(
-                    key.source().begin.line, entry,
-                    "unknown key " + QuotedText(key.str()) + "; remove it or correct its name");
+                return Refuse(key.source().begin.line, entry,
+                              "unknown key " + vex::text::DoubleQuoted(key.str()) +
+                                  "; remove it or correct its name");
             }
         }
         return true;
@@ -84,11 +107,12 @@ private:
     {
         const toml::node* const node = table.get(key);
         if (node == nullptr) {
-            return !needed || Refuse(LineOf(table), entry, "no " + QuotedText(key) + "; add it");
+            return !needed ||
+                   Refuse(LineOf(table), entry, "no " + vex::text::DoubleQuoted(key) + "; add it");
         }
         if (!node->is_string()) {
             return Refuse(LineOf(*node), entry,
-                          QuotedText(key) + " is no text; write it in quotes");
+                          vex::text::DoubleQuoted(key) + " is no text; write it in quotes");
         }
         text = node->as_string()->get();
         return true;
@@ -101,7 +125,7 @@ private:
         }
         return IsName(name) ||
                Refuse(LineOf(*table.get("name")), entry,
-                      "the name " + QuotedText(name) +
+                      "the name " + vex::text::DoubleQuoted(name) +
                           " is none; use up to 100 letters, digits and '_', a letter first");
     }
 
@@ -116,23 +140,26 @@ private:
         if (!ReadName(*table, count, type.name)) {
             return false;
         }
-        const std::string entry = "type " + QuotedText(type.name);
+        const std::string entry = "type " + vex::text::DoubleQuoted(type.name);
         if (!HasOnlyKeys(*table, {"name", "base", "attributes"}, entry) ||
             !ReadText(*table, "base", entry, false, type.base)) {
             return false;
         }
-        if (_attributeNames.contains(type.name)) {
+        if (_known.contains(type.name)) {
             return Refuse(LineOf(*table), entry, "defined twice; remove or rename one of the two");
         }
-        std::set<std::string, std::less<>> names;
+        Known known;
         if (table->contains("base")) {
-            const auto base = _attributeNames.find(type.base);
-            if (base == _attributeNames.end()) {
+            const auto base = _known.find(type.base);
+            if (base == _known.end()) {
                 return Refuse(LineOf(*table->get("base")), entry,
-                              "its base " + QuotedText(type.base) +
+                              "its base " + vex::text::DoubleQuoted(type.base) +
                                   " does not stand further up; correct the name or the order");
             }
-            names = base->second;
+            if (!Count(*table, entry, base->second.held)) {
+                return false;
+            }
+            known = base->second;
         }
         if (const toml::node* const attributes = table->get("attributes")) {
             const toml::array* const list = attributes->as_array();
@@ -141,18 +168,19 @@ private:
                               "\"attributes\" is no list; write [{ name = …, kind = … }, …]");
             }
             for (const toml::node& attribute : *list) {
-                if (!ReadAttribute(attribute, entry, type, names)) {
+                if (!ReadAttribute(attribute, entry, type, known)) {
                     return false;
                 }
             }
         }
-        _attributeNames.emplace(type.name, std::move(names));
+        ++known.held;
+        _known.emplace(type.name, std::move(known));
         _types.push_back(std::move(type));
         return true;
     }
 
     bool ReadAttribute(const toml::node& node, const std::string& owner, LateTypeDefinition& type,
-                       std::set<std::string, std::less<>>& names)
+                       Known& known)
     {
         const toml::table* const table = node.as_table();
         const std::string count =
@@ -164,7 +192,7 @@ private:
         if (!ReadName(*table, count, attribute.name)) {
             return false;
         }
-        const std::string entry = owner + ", attribute " + QuotedText(attribute.name);
+        const std::string entry = owner + ", attribute " + vex::text::DoubleQuoted(attribute.name);
         std::string kindText;
         if (!HasOnlyKeys(*table, {"name", "kind", "default"}, entry) ||
             !ReadText(*table, "kind", entry, true, kindText)) {
@@ -174,10 +202,10 @@ private:
         if (kind == nullptr) {
             return Refuse(
                 LineOf(*table->get("kind")), entry,
-                "unknown kind " + QuotedText(kindText) +
+                "unknown kind " + vex::text::DoubleQuoted(kindText) +
                     "; use boolean, integer, double, text, reference, link, list or table");
         }
-        if (!names.insert(attribute.name).second) {
+        if (!known.names.insert(attribute.name).second) {
             return Refuse(LineOf(*table), entry,
                           "the type or its base has it already; remove or rename one of the two");
         }
@@ -186,18 +214,20 @@ private:
         if (const toml::node* const given = table->get("default");
             given != nullptr && !ReadDefault(*given, attribute.kind, attribute.defaultValue)) {
             return Refuse(LineOf(*given), entry,
-                          "the default is none of kind " + QuotedText(kind->name) + "; write " +
-                              std::string(kind->form));
+                          "the default is none of kind " + vex::text::DoubleQuoted(kind->name) +
+                              "; write " + std::string(kind->form));
         }
+        const std::size_t held = ThingsHeld(attribute);
+        known.held += held;
         type.attributes.push_back(std::move(attribute));
-        return true;
+        return Count(*table, entry, held);
     }
 
     std::string_view _fileName;
     std::vector<LateTypeDefinition>& _types;
     std::string& _error;
-    std::map<std::string, std::set<std::string, std::less<>>, std::less<>>
-        _attributeNames;  ///< by type
+    std::map<std::string, Known, std::less<>> _known;  ///< by type
+    std::size_t _held = 0;                             ///< by all types together
 };
 
 }  // namespace

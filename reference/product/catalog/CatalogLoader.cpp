@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // Finding the catalogue file and adding its types to the registry.
 #include "host/component/ComponentTypes.h"
+#include "host/system/Path.h"
 #include "product/catalog/CatalogFile.h"
 #include "product/catalog/CatalogMessage.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -42,17 +41,7 @@ bool ReadFile(const std::string& path, std::string& text, std::string& error)
 
 std::vector<std::string> CatalogFolders()
 {
-    std::vector<std::string> folders;
-    if (const char* const path = std::getenv("VEX_CATALOG_PATH"); path != nullptr) {
-        std::string_view rest = path;
-        while (!rest.empty()) {
-            const std::size_t end = std::min(rest.find(':'), rest.size());
-            if (end != 0) {
-                folders.emplace_back(rest.substr(0, end));
-            }
-            rest.remove_prefix(std::min(end + 1, rest.size()));
-        }
-    }
+    std::vector<std::string> folders = vex::system::FoldersNamedIn("VEX_CATALOG_PATH");
     // The host's own folder is the last one in which component libraries are looked for.
     if (const std::vector<std::string> libraries = vex::ComponentTypes::SearchPath();
         !libraries.empty()) {
@@ -68,7 +57,7 @@ bool LoadCatalog(const std::vector<std::string>& folders, std::string& error)
         const std::string path = folder + "/" + catalogFileName;
         std::error_code code;
         if (!std::filesystem::exists(path, code) && !code) {
-            searched += " " + QuotedText(folder);
+            searched += " " + vex::text::DoubleQuoted(folder);
             continue;
         }
         std::string text;

@@ -6,18 +6,11 @@
 
 namespace hlx {
 
-inline std::string QuotedText(std::string_view text)
-{
-    std::string quoted;
-    vex::text::AppendQuoted(quoted, text);
-    return quoted;
-}
-
 /// @param line  0 where no line is concerned @param entry  empty where no entry is concerned
 inline std::string CatalogMessage(std::string_view fileName, std::size_t line,
                                   std::string_view entry, std::string_view reason)
 {
-    std::string message = "catalogue " + QuotedText(fileName);
+    std::string message = "catalogue " + vex::text::DoubleQuoted(fileName);
     if (line != 0) {
         message += ", line " + std::to_string(line);
     }

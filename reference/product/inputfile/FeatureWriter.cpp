@@ -55,15 +55,15 @@ void FeatureWriter::Write(const vex::Feature& feature)
     }
     while (!levels.empty()) {
         Level& level = levels.back();
-        const std::vector<vex::Feature*>& children = level.feature->Children();
-        if (level.nextChild == children.size()) {
+        if (level.nextChild == nullptr) {
             if (level.closed) {
                 _deck.End(level.rule->keyword);
             }
             levels.pop_back();
             continue;
         }
-        const vex::Feature& child = *children[level.nextChild++];
+        const vex::Feature& child = *level.nextChild;
+        level.nextChild = child.NextSibling();
         if (!IsOmitted(child)) {
             Open(child, levels);
         }
@@ -91,7 +91,7 @@ void FeatureWriter::Open(const vex::Feature& feature, std::vector<Level>& levels
     if (!rule.procedure.empty()) {
         _deck.KeywordLine(rule.procedure);
     }
-    levels.push_back({&feature, &rule, 0, isBlock || says});
+    levels.push_back({&rule, feature.Children().front(), isBlock || says});
 }
 
 void FeatureWriter::WriteParameters(const vex::Feature& feature)

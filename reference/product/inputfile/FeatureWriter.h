@@ -25,10 +25,9 @@ public:
 private:
     struct Level
     {
-        const vex::Feature* feature;
         const KeywordRule* rule;
-        std::size_t nextChild;
-        bool closed;  ///< ends with an *END line
+        const vex::Feature* nextChild;  ///< null: all were written
+        bool closed;                    ///< ends with an *END line
     };
 
     void Open(const vex::Feature& feature, std::vector<Level>& levels);

@@ -3,6 +3,7 @@
 #include "product/inputfile/IfwTraverser.h"
 
 #include "HLXIZPKWBGeneralSettingAtt.h"
+#include "VEXAnalysisModel.h"
 #include "host/component/ComponentTypes.h"
 #include "host/feature/Refusal.h"
 #include "host/system/AtomicFile.h"
@@ -39,7 +40,7 @@ HRESULT CollectCases(const VEXListValVEXBaseUnknown_var& list, std::vector<Featu
             return refuse(E_INVALIDARG, "is empty: give analysis cases only");
         }
         auto* const feature = dynamic_cast<Feature*>(entry->GetImpl());
-        if (feature == nullptr || !IsAnalysisCase(*feature)) {
+        if (feature == nullptr || !vex::Offers<VEXISamAnalysisCase>(*feature)) {
             return refuse(E_INVALIDARG, "is no analysis case: give analysis cases only");
         }
         if (feature->Tree() == nullptr) {

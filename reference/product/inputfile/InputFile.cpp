@@ -9,11 +9,6 @@
 
 namespace hlx {
 
-bool IsAnalysisCase(const vex::Feature& feature)
-{
-    return feature.Type().Find(IID_VEXISamAnalysisCase) != nullptr;
-}
-
 bool MakeInputFile(const std::vector<vex::Feature*>& cases, InputFileForm form, std::string& text,
                    std::string& error)
 {
@@ -36,7 +31,7 @@ bool MakeInputFile(const std::vector<vex::Feature*>& cases, InputFileForm form, 
     deck.Comment("model");
     FeatureWriter writer(deck, model);
     for (const vex::Feature* const feature : model.Children()) {
-        if (!IsAnalysisCase(*feature)) {
+        if (!vex::Offers<VEXISamAnalysisCase>(*feature)) {
             writer.Write(*feature);
         }
     }

@@ -17,7 +17,4 @@ enum class InputFileForm { Structured, Flat };
 bool MakeInputFile(const std::vector<vex::Feature*>& cases, InputFileForm form, std::string& text,
                    std::string& error);
 
-/// True for a feature that a deck is made of.
-bool IsAnalysisCase(const vex::Feature& feature);
-
 }  // namespace hlx

@@ -51,8 +51,7 @@ private:
     /// Nodes of one parent, on the way down.
     struct Level
     {
-        const std::vector<Feature*>* nodes;
-        std::size_t next;
+        const Feature* next;  ///< null: all of the level were visited
         const Document* document;
         bool areRoots;  ///< the one root of a structure adds no name: its use has one
         std::string name;
@@ -114,11 +113,12 @@ bool StructureReader::ReadLinked(Document& document)
     }
     while (!levels.empty()) {
         Level& level = levels.back();
-        if (level.next == level.nodes->size()) {
+        if (level.next == nullptr) {
             levels.pop_back();
             continue;
         }
-        const Feature& node = *(*level.nodes)[level.next++];
+        const Feature& node = *level.next;
+        level.next = node.NextSibling();
         if (!node.Kind().IsKindOf("VEXProductNode")) {
             continue;
         }
@@ -153,7 +153,7 @@ bool StructureReader::Visit(const Feature& node, const Level& parent, std::vecto
     std::ranges::copy(numbers, own.begin());
     const Placement placement = Compose(parent.placement, own);
     if (path.empty()) {
-        return Push({&node.Children(), 0, parent.document, false, std::move(name), placement},
+        return Push({node.Children().front(), parent.document, false, std::move(name), placement},
                     levels);
     }
     std::string reason;
@@ -195,7 +195,8 @@ bool StructureReader::Enter(Document& document, std::string name, const Placemen
         return Fail("the product document " + Quoted(document.Path()) +
                     " holds itself; take out the use that leads back to it");
     }
-    return Push({&container->Children(), 0, &document, true, std::move(name), placement}, levels);
+    return Push({container->Children().front(), &document, true, std::move(name), placement},
+                levels);
 }
 
 bool StructureReader::Push(Level level, std::vector<Level>& levels)

@@ -37,11 +37,9 @@ bool IsPossible(const Definition& definition, std::string_view value)
 
 std::string Refusal(const std::string& path, const Definition& definition, std::string_view value)
 {
-    std::string error;
-    vex::text::AppendQuoted(error, path);
-    error += ": the setting " + std::string(definition.key) + " is ";
-    vex::text::AppendQuoted(error, value);
-    error += "; it can be";
+    std::string error = vex::text::DoubleQuoted(path) + ": the setting ";
+    error += definition.key;
+    error += " is " + vex::text::DoubleQuoted(value) + "; it can be";
     for (const std::string_view possible : definition.values) {
         error += ' ';
         error += possible;

@@ -51,15 +51,13 @@ Feature* AddStep(Feature& analysisCase, std::string_view lateType, std::string_v
     }
     if (kind == nullptr || !kind->IsKindOf("HLXStepLT") ||
         std::ranges::find(otherSteps, kind->name) != std::end(otherSteps)) {
-        error.clear();
-        vex::text::AppendQuoted(error, lateType);
-        error += " is no kind of step that can be added; give one such as HLXGeneralStaticStepLT";
+        error = vex::text::DoubleQuoted(lateType) +
+                " is no kind of step that can be added; give one such as HLXGeneralStaticStepLT";
         return nullptr;
     }
     if (!vex::text::IsValid(name)) {
-        error = "the step's name ";
-        vex::text::AppendQuoted(error, name);
-        error += " is not valid UTF-8; give another name";
+        error = "the step's name " + vex::text::DoubleQuoted(name) +
+                " is not valid UTF-8; give another name";
         return nullptr;
     }
     Feature& step = history->Tree()->Create(*kind, history);

@@ -5,6 +5,7 @@
 #include "product/treedump/TreeDump.h"
 
 #include <new>
+#include <utility>
 
 /// A dump in a trace: how long it is, for it may have a million lines.
 static std::string TextOf(const HLXGenString& text)
@@ -26,7 +27,11 @@ HRESULT Dump(VEXINavigateObject* root, int depth, HLXGenString& text)
     try {
         std::string lines;
         hlx::AppendFeatureTree(lines, *feature, depth);
-        text.Append(lines);
+        if (text.Length() == 0) {
+            text = HLXGenString(std::move(lines));
+        } else {
+            text.Append(lines);
+        }
     } catch (const std::bad_alloc&) {
         return E_OUTOFMEMORY;
     }

@@ -69,7 +69,7 @@ const FeaturePaths::Place& FeaturePaths::PlaceOf(const Feature& feature)
     if (const auto known = _places.find(&feature); known != _places.end()) {
         return known->second;
     }
-    const std::vector<Feature*>& siblings =
+    const vex::FeatureList& siblings =
         feature.Parent() != nullptr ? feature.Parent()->Children() : feature.Tree()->Roots();
     std::unordered_map<std::string_view, std::uint64_t> bearers;
     std::unordered_map<const vex::LateType*, std::uint64_t> ordinals;

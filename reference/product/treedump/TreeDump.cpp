@@ -15,6 +15,9 @@ namespace {
 /// text of the square of its length.
 constexpr std::int64_t deepestIndent = 100;
 
+/// Room for a line as most are: what is not used of it costs address space only.
+constexpr std::size_t likelyLine = 160;
+
 void AppendIndent(std::string& out, std::int64_t level)
 {
     out.append(static_cast<std::size_t>(2 * std::min(level, deepestIndent)), ' ');
@@ -77,6 +80,9 @@ void AppendFeatureTree(std::string& out, vex::Feature& root, int depth)
 {
     FeaturePaths paths(root);
     const std::int64_t first = std::max(depth, 0);
+    std::size_t lines = 0;
+    vex::FeatureTree::Walk(root, [&](const vex::Feature&, int) { ++lines; });
+    out.reserve(out.size() + lines * likelyLine);
     vex::FeatureTree::Walk(root, [&](const vex::Feature& feature, int level) {
         AppendIndent(out, first + level);
         out += feature.Kind().name;

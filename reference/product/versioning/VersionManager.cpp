@@ -12,14 +12,6 @@
 
 namespace {
 
-/// The document as messages name it.
-std::string NameOf(const vex::Document& document)
-{
-    std::string name;
-    vex::text::AppendQuoted(name, document.Path());
-    return name;
-}
-
 HRESULT Upgrade(vex::Document& document, bool tell)
 {
     const hlx::VersionSteps& steps = hlx::VersionSteps::Instance();
@@ -30,17 +22,18 @@ HRESULT Upgrade(vex::Document& document, bool tell)
             return vex::Refuse(
                 E_FAIL, fmt::format("document {}: nothing upgrades data version {}; open and store "
                                     "it with the release before this one",
-                                    NameOf(document), from));
+                                    vex::text::DoubleQuoted(document.Path()), from));
         }
         const HRESULT result = step->upgrade(document);
         if (FAILED(result)) {
-            return vex::Refuse(result,
-                               fmt::format("document {}: upgrade from data version {} failed: {}",
-                                           NameOf(document), from, step->title));
+            return vex::Refuse(
+                result, fmt::format("document {}: upgrade from data version {} failed: {}",
+                                    vex::text::DoubleQuoted(document.Path()), from, step->title));
         }
         if (tell) {
-            vex::Tell(fmt::format("document {}: data version {} to {}: {}", NameOf(document), from,
-                                  from + 1, step->title));
+            vex::Tell(fmt::format("document {}: data version {} to {}: {}",
+                                  vex::text::DoubleQuoted(document.Path()), from, from + 1,
+                                  step->title));
         }
         document.SetDataVersion(from + 1);
     }

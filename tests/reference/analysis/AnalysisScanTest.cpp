@@ -51,10 +51,10 @@ TEST_F(Scan, DoesNotFindTheObjectItself)
 TEST_F(Scan, PutsTheNearestFirst)
 {
     vex::Feature& analysisCase = FeatureOf(Case(1));
-    vex::Feature& history = *analysisCase.Children()[0];
-    AddFeature(*history.Children()[0], "HLXJobLT", "third level");
+    vex::Feature& history = *analysisCase.Children().front();
+    AddFeature(*history.Children().front(), "HLXJobLT", "third level");
     AddFeature(history, "HLXJobLT", "second level");
-    AddFeature(*analysisCase.Children()[1], "HLXJobLT", "second level, later");
+    AddFeature(*history.NextSibling(), "HLXJobLT", "second level, later");
     AddFeature(analysisCase, "HLXJobLT", "first level");
     EXPECT_EQ(AliasesOf(Find(OfCase(), "HLXJobLT", 3)),
               (Names{"first level", "second level", "second level, later", "third level"}));

@@ -90,7 +90,7 @@ TEST_F(FeatureTreeTest, DeletesWhateverStandsAnywhereAmongManySiblings)
     for (const std::size_t index : {0U, 9U, 4U, 1U, 3U, 0U}) {
         tree.Delete(*expected[index]);
         expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(index));
-        EXPECT_EQ(root.Children(), expected);
+        EXPECT_THAT(root.Children(), testing::ElementsAreArray(expected));
     }
 }
 

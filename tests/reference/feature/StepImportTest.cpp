@@ -64,8 +64,9 @@ TEST_F(StepImportTest, AnAssemblyBecomesAProductWithOnePartADocument)
     }
     EXPECT_THAT(uses, ElementsAre("Bracket Bracket.VEXPart", "Plate Plate.VEXPart",
                                   "Bolt Bolt.VEXPart", "Bolt Bolt.VEXPart"));
-    EXPECT_NE(root.Children()[2]->GetAs<DoubleList>("Placement"),
-              root.Children()[3]->GetAs<DoubleList>("Placement"));
+    const Feature* const third = *std::next(root.Children().begin(), 2);
+    EXPECT_NE(third->GetAs<DoubleList>("Placement"),
+              third->NextSibling()->GetAs<DoubleList>("Placement"));
 }
 
 TEST_F(StepImportTest, APartsShapeIsThereAfterReopening)

@@ -6,10 +6,10 @@
 #include "host/store/DocumentReader.h"
 #include "host/store/DocumentWriter.h"
 #include "host/system/FileOperations.h"
+#include "support/ResealedDocument.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -169,15 +169,8 @@ inline void WriteFile(const std::string& path, const std::string& bytes)
 /// Changes a database with SQL, as any program could.
 inline void ChangeBySql(const std::string& path, const std::string& sql)
 {
-    sqlite3* connection = nullptr;
-    ASSERT_EQ(sqlite3_open_v2(path.c_str(), &connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
-                              nullptr),
-              SQLITE_OK);
-    char* message = nullptr;
-    const int result = sqlite3_exec(connection, sql.c_str(), nullptr, nullptr, &message);
-    EXPECT_EQ(result, SQLITE_OK) << (message != nullptr ? message : "");
-    sqlite3_free(message);
-    EXPECT_EQ(sqlite3_close(connection), SQLITE_OK);
+    std::string error;
+    ASSERT_TRUE(hlxtest::ChangeBySql(path, sql, error)) << error;
 }
 
 /// A document that has something in every table: features 1 (child 2 (child 3), child 5) and 4.

@@ -3,8 +3,8 @@
 #include "host/topology/step/StepReader.h"
 
 #include "host/system/MessageTexts.h"
+#include "host/topology/ChildProcess.h"
 #include "host/topology/step/AssemblyStream.h"
-#include "host/topology/step/ChildProcess.h"
 #include "host/topology/step/StepFileCheck.h"
 #include "host/topology/step/StepTranslation.h"
 

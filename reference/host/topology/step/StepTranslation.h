@@ -3,7 +3,7 @@
 // block it.
 #pragma once
 
-#include "host/topology/step/ChildProcess.h"
+#include "host/topology/ChildProcess.h"
 
 #include "host/product/GeometryKernel.h"
 

@@ -2,7 +2,7 @@
 // Runs work in a child process. What the child says is frames on a pipe: a kind (one byte), a
 // length (8 bytes, the machine's own order), that many bytes. 'P' is a phase, 'W' a warning, 'R'
 // the result, 'E' an error; 'R' or 'E' is the last.
-#include "host/topology/step/ChildProcess.h"
+#include "host/topology/ChildProcess.h"
 
 #include "host/system/Descriptor.h"
 
