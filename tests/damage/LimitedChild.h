@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+// Work in a child process that may take ten seconds of processor time and four gibibytes.
+#pragma once
+
+#include <functional>
+#include <ostream>
+#include <string>
+
+namespace damagetest {
+
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool kSanitized = true;
+#elif defined(__has_feature)
+inline constexpr bool kSanitized = __has_feature(address_sanitizer);
+#else
+inline constexpr bool kSanitized = false;
+#endif
+
+/// A sanitized program does the same work several times more slowly.
+inline constexpr int kMostSeconds = kSanitized ? 60 : 10;
+inline constexpr long kMostKibibytes = 4L * 1024 * 1024;
+
+/// How a child ended and what it took.
+struct ChildEnd
+{
+    int code = -1;    ///< what its work answered; the negative number of the signal that ended it
+    std::string err;  ///< what it wrote to standard error
+    double seconds = 0.0;  ///< of processor time
+    long kibibytes = 0;    ///< of memory, at its peak
+
+    friend void PrintTo(const ChildEnd& end, std::ostream* stream)
+    {
+        *stream << "ended with " << end.code << " after " << end.seconds << " s, " << end.kibibytes
+                << " KiB, err: " << end.err;
+    }
+};
+
+/// Runs `work` in a copy of this process and waits for its end. A child that takes more than is
+/// allowed, or a minute more than its processor time, is ended by a signal. The test fails when it
+/// took more memory than is allowed.
+ChildEnd RunLimited(const std::function<int()>& work);
+
+}  // namespace damagetest
