@@ -85,6 +85,8 @@ int Use(const std::string& path, const std::string& copy, std::size_t features)
     if (lines < features) {
         return Fault("not all dumped");
     }
+    // A change, or the file would be copied.
+    Hub(document).SetAlias(Hub(document).Alias());
     if (FAILED(VEXDocumentServices::SaveAs(*document, VEXUnicodeString(copy), "", 1))) {
         return Fault("not saved");
     }

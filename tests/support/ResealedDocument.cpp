@@ -14,17 +14,13 @@ namespace hlxtest {
 
 namespace {
 
-struct CloseConnection
+struct Close
 {
     void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
-};
-using Connection = std::unique_ptr<sqlite3, CloseConnection>;
-
-struct CloseStatement
-{
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };
-using Statement = std::unique_ptr<sqlite3_stmt, CloseStatement>;
+using Connection = std::unique_ptr<sqlite3, Close>;
+using Statement = std::unique_ptr<sqlite3_stmt, Close>;
 
 using Digest = XXH128_canonical_t;
 

@@ -74,6 +74,7 @@ bool FeatureTree::Move(Feature& feature, Feature* parent, Feature* before)
 
 void FeatureTree::Delete(Feature& feature)
 {
+    ++_changes;
     Siblings(feature._parent).Remove(feature);
     Feature* doomed = nullptr;
     Walk(feature, [&](Feature& each, int) {
@@ -85,6 +86,7 @@ void FeatureTree::Delete(Feature& feature)
 
 void FeatureTree::Clear()
 {
+    ++_changes;
     Feature* doomed = nullptr;
     for (Feature* const root : std::exchange(_roots, FeatureList())) {
         Walk(*root, [&](Feature& each, int) { each._previous = std::exchange(doomed, &each); });

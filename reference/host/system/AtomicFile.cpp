@@ -22,6 +22,19 @@ namespace {
 
 constexpr unsigned kPermissionBits = 07777;
 
+// Whether a file of that name stays: one called like an unfinished file would be cleared away by
+// the next save of the file whose name it begins with.
+bool CheckLasts(std::string_view path, std::string& error)
+{
+    const std::string_view name = path.substr(path.rfind('/') + 1);
+    if (!HasEndingOfUnfinishedFile(name)) return true;
+    error = fmt::format(
+        "{}: saving failed: a name with such an ending is that of a file whose saving was not "
+        "finished. Give another name.",
+        Quoted(path));
+    return false;
+}
+
 }  // namespace
 
 std::string AtomicFile::Failure(std::string_view path, std::string_view step,
@@ -45,7 +58,9 @@ bool AtomicFile::ResolveTarget(std::string_view path, std::string& target, std::
     if (!CheckPath(path, error)) return false;
     target = path;
     struct stat status = {};
-    if (::lstat(target.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return true;
+    if (::lstat(target.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) {
+        return CheckLasts(target, error);
+    }
     char* resolved = ::realpath(target.c_str(), nullptr);
     if (resolved == nullptr) {
         error = Failure(target, "the file is a symbolic link that cannot be followed",
@@ -54,7 +69,7 @@ bool AtomicFile::ResolveTarget(std::string_view path, std::string& target, std::
     }
     target = resolved;
     std::free(resolved);
-    return CheckPath(target, error);
+    return CheckPath(target, error) && CheckLasts(target, error);
 }
 
 bool AtomicFile::Begin(std::string_view path, std::string& error)

@@ -89,6 +89,12 @@ std::unique_ptr<DIR, FolderCloser> EntriesOf(int folder)
 
 }  // namespace
 
+bool HasEndingOfUnfinishedFile(std::string_view name)
+{
+    return name.size() > kEndingSize &&
+           IsNameOfUnfinishedFile(name, name.substr(0, name.size() - kEndingSize));
+}
+
 bool IsNameOfUnfinishedFile(std::string_view name, std::string_view target)
 {
     if (name.size() != target.size() + kEndingSize || !name.starts_with(target)) return false;

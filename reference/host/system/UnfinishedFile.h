@@ -23,6 +23,9 @@ namespace vex::system {
 /// Whether `name` is `target`'s, both without folders, with the ending of an unfinished file.
 VEX_EXPORT bool IsNameOfUnfinishedFile(std::string_view name, std::string_view target);
 
+/// Whether `name` has that ending behind a name of at least one byte.
+bool HasEndingOfUnfinishedFile(std::string_view name);
+
 /// Makes an empty file beside `target`, with the permissions `mode` less the process's mask, and
 /// locks it. Answers its descriptor, and its path in `path`; or a negative error number.
 int MakeUnfinishedFile(const std::string& target, unsigned mode, std::string& path);

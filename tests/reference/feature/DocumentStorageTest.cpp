@@ -99,6 +99,25 @@ TEST_F(DocumentStorageTest, AReferenceToADeletedFeatureIsStoredAsNotSet)
     EXPECT_EQ(read->Tree().Find(one.Id())->Target("Other"), nullptr);
 }
 
+TEST_F(DocumentStorageTest, WhatIsDeletedOrMovedAfterReadingIsStoredSo)
+{
+    Feature& one = Add(root, "TestThing", "one");
+    Feature& two = Add(root, "TestThing", "two");
+    Feature& three = Add(root, "TestThing", "three");
+    ASSERT_TRUE(SaveDocument(*document, path, error)) << error;
+    const DocumentHolder read = Load(path);
+    read->Tree().Delete(*read->Tree().Find(one.Id()));
+    ASSERT_TRUE(SaveDocument(*read, path, error)) << error;
+    const DocumentHolder again = Load(path);
+    EXPECT_EQ(again->Tree().Find(one.Id()), nullptr);
+    ASSERT_TRUE(again->Tree().Move(*again->Tree().Find(three.Id()), nullptr,
+                                   again->Tree().Roots().front()));
+    ASSERT_TRUE(SaveDocument(*again, path, error)) << error;
+    const DocumentHolder last = Load(path);
+    EXPECT_EQ(last->Tree().Roots().front()->Id(), three.Id());
+    EXPECT_NE(last->Tree().Find(two.Id()), nullptr);
+}
+
 TEST_F(DocumentStorageTest, LinksMoveWithTheirDocuments)
 {
     Feature& one = Add(root);
