@@ -192,7 +192,8 @@ class StaticInputFileExitTest : public StaticInputFile,
 
 TEST_P(StaticInputFileExitTest, AnswersAndPrintsALine)
 {
-    const auto& [given, exit] = GetParam();
+    const CaseGiven given = std::get<CaseGiven>(GetParam());
+    const Exit exit = std::get<Exit>(GetParam());
     const VEXISamAnalysisCase_var analysisCase = Case(1);
     EXPECT_EQ(RunWith(exit.faults, [&] { return Write(given, analysisCase, path); }),
               (Outcome{exit.result, exit.out, ""}));
