@@ -6,9 +6,13 @@
 
 namespace HLXPath {
 
-/// Directory and name with one separator; empty when the platform cannot join them.
+/// Directory and name with one separator; empty when the platform cannot join them, or would cut
+/// them at a zero.
 inline VEXUnicodeString Join(const VEXUnicodeString& directory, const VEXUnicodeString& name)
 {
+    for (const VEXUnicodeString* const text : {&directory, &name}) {
+        if (text->View().find('\0') != std::string_view::npos) return {};
+    }
     char path[VEXMaxPathSize] = "";
     VEXMakePath(directory.ConvertToChar(), name.ConvertToChar(), path);
     return path;

@@ -33,7 +33,13 @@ std::string AbsoluteDocumentPath(std::string_view path, std::string& error)
     }
     const fs::path plain = absolute.lexically_normal();
     const bool isPlain = fs::weakly_canonical(plain.parent_path(), code) == folder && !code;
-    return isPlain ? plain.string() : (folder / absolute.filename()).string();
+    std::string whole = isPlain ? plain.string() : (folder / absolute.filename()).string();
+    // A relative path stands in the current folder, whatever bytes that one is called by.
+    if (const char* const fault = system::TextFault(whole)) {
+        error = system::Quoted(whole) + ": the text " + fault + ". Rename the folder.";
+        return {};
+    }
+    return whole;
 }
 
 std::string DocumentPathIdentity(const std::string& absolutePath)

@@ -22,6 +22,9 @@ using vex::system::Quoted;
 
 constexpr std::size_t deepestLevel = 256;
 constexpr std::size_t mostNodes = 1'000'000;
+/// A name holds those of all nodes above: long ones would make a text of the square of what the
+/// documents hold.
+constexpr std::size_t mostBytesOfNames = std::size_t{256} << 20U;
 
 /// The place in the top of something placed by `inner` in what is itself placed by `outer`.
 Placement Compose(const Placement& outer, const Placement& inner)
@@ -69,11 +72,13 @@ private:
     bool Enter(Document& document, std::string name, const Placement& placement,
                std::string_view partNumber, std::vector<Level>& levels);
     bool Push(Level level, std::vector<Level>& levels);
+    bool CountName(std::size_t bytes);
     std::size_t PartOf(const Document& document, std::string_view partNumber);
 
     Structure& _structure;
     std::string& _error;
     std::size_t _nodes = 0;
+    std::size_t _bytesOfNames = 0;
     std::unordered_map<std::string, Document*> _documents;
     std::unordered_map<const Document*, std::size_t> _parts;
     UniqueNames _partNames;
@@ -144,6 +149,9 @@ bool StructureReader::Visit(const Feature& node, const Level& parent, std::vecto
         name += name.empty() ? "" : "/";
         name += node.Alias().empty() ? std::string_view(partNumber) : node.Alias();
     }
+    if (!CountName(name.size())) {
+        return false;
+    }
     Placement own{};
     if (numbers.size() != own.size()) {
         return Fail("the placement of " + Quoted(name) + " has " + std::to_string(numbers.size()) +
@@ -187,6 +195,9 @@ bool StructureReader::Enter(Document& document, std::string name, const Placemen
     }
     if (document.DocType() == DocumentType::Part) {
         const std::size_t part = PartOf(document, partNumber);
+        if (!CountName(_structure.parts[part].size())) {
+            return false;
+        }
         const std::string& wish = name.empty() ? _structure.parts[part] + ".1" : name;
         _structure.instances.push_back({_instanceNames.Make(wish), part, placement});
         return true;
@@ -208,6 +219,15 @@ bool StructureReader::Push(Level level, std::vector<Level>& levels)
     }
     levels.push_back(std::move(level));
     return true;
+}
+
+bool StructureReader::CountName(std::size_t bytes)
+{
+    _bytesOfNames += bytes;
+    return _bytesOfNames <= mostBytesOfNames ||
+           Fail(
+               "the names of the product structure, each with those above it, take more than "
+               "256 MiB; shorten the aliases in the product documents");
 }
 
 std::size_t StructureReader::PartOf(const Document& document, std::string_view partNumber)

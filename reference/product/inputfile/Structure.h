@@ -30,7 +30,7 @@ struct Structure
 /// Reads the structure of what `analysis` is linked to, opening documents as needed; they stay
 /// open. False, with the reason in `error`, when a document cannot be opened, when the structure
 /// holds itself or a placement is none, or when it is deeper than 256 levels or has more than a
-/// million parts or products.
+/// million parts or products, or names of more than 256 MiB.
 bool ReadStructure(vex::Document& analysis, Structure& structure, std::string& error);
 
 }  // namespace hlx
