@@ -63,12 +63,10 @@ void ReportBytes(benchmark::State& state, double bytes, double limit)
     state.counters[figure::limit] = limit;
 }
 
-void Require(bool condition, const char* what)
+void Fail(const char* what)
 {
-    if (!condition) {
-        std::fprintf(stderr, "benchmarks: %s\n", what);
-        std::exit(2);
-    }
+    std::fprintf(stderr, "benchmarks: %s\n", what);
+    std::exit(2);
 }
 
 }  // namespace bench

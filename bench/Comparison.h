@@ -66,7 +66,15 @@ private:
 /// Hands a figure of its own to the benchmark, in bytes.
 void ReportBytes(benchmark::State& state, double bytes, double limit);
 
-/// Ends the benchmarks with a message when what they stand on fails.
-void Require(bool condition, const char* what);
+/// Ends the benchmarks with a message.
+[[noreturn]] void Fail(const char* what);
+
+/// Ends the benchmarks when what they stand on fails.
+inline void Require(bool condition, const char* what)
+{
+    if (!condition) {
+        Fail(what);
+    }
+}
 
 }  // namespace bench

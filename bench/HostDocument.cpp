@@ -5,10 +5,9 @@
 #include "Comparison.h"
 #include "host/feature/Document.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <unordered_map>
-
-#include <stdlib.h>
 
 namespace bench {
 
@@ -17,8 +16,9 @@ namespace {
 vex::Feature& Model(VEXDocument& document)
 {
     vex::Document* const opened = vex::Document::From(&document);
-    Require(opened != nullptr, "the document is not of the session");
-    return *opened->SpecContainer()->Children().front()->Children().front();
+    vex::Feature* const container = opened == nullptr ? nullptr : opened->SpecContainer();
+    Require(container != nullptr, "the document is not of the session, or has no features");
+    return *container->Children().front()->Children().front();
 }
 
 vex::Value ValueOf(const PlainAttribute& attribute)

@@ -109,10 +109,9 @@ void WritePlain(const std::string& path, AttributeTable table,
                 const std::vector<PlainFeature>& features)
 {
     const Connection connection = Open(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    // SQLite as it comes, but that it makes no journal file: the commit synchronises the one file
-    // once, as saving a document does.
+    // SQLite as it comes: what it has committed outlives a loss of power, as a saved document does.
     Execute(connection,
-            "PRAGMA journal_mode = MEMORY; PRAGMA synchronous = NORMAL; BEGIN EXCLUSIVE;"
+            "BEGIN EXCLUSIVE;"
             "CREATE TABLE feature (id INTEGER PRIMARY KEY, parent INTEGER, ordinal INTEGER,"
             "                      late_type TEXT, alias TEXT)");
     Execute(connection, table == AttributeTable::Rowid

@@ -13,7 +13,7 @@ namespace bench {
 /// How the rows of attributes are kept.
 enum class AttributeTable { Rowid, WithoutRowid };
 
-/// Writes a new file in one transaction with prepared statements, synchronised once.
+/// Writes a new file in one transaction with prepared statements.
 void WritePlain(const std::string& path, AttributeTable table,
                 const std::vector<PlainFeature>& features);
 

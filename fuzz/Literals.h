@@ -1,27 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-// Values of any bytes in the text of an SQL statement.
+// Values of any bytes in the text of an SQL statement, and columns that take them.
 #pragma once
 
-#include <fmt/format.h>
-
-#include <string>
-#include <string_view>
+#include "support/SqlLiterals.h"
 
 namespace hlxfuzz {
 
-inline std::string BlobLiteral(std::string_view bytes)
-{
-    std::string text = "X'";
-    for (const char byte : bytes) {
-        text += fmt::format("{:02X}", static_cast<unsigned char>(byte));
-    }
-    return text + "'";
-}
-
-inline std::string TextLiteral(std::string_view bytes)
-{
-    return "CAST(" + BlobLiteral(bytes) + " AS TEXT)";
-}
+using hlxtest::BlobLiteral;
+using hlxtest::TextLiteral;
 
 /// In the schema's text, the types and constraints of columns become comments, and are made of
 /// these again: between the two, columns take values of any type, as those of a file may have.

@@ -13,6 +13,8 @@
 #include <string>
 #include <system_error>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr int allLevels = std::numeric_limits<int>::max();
@@ -55,10 +57,11 @@ HRESULT AppendRows(const VEXISamAnalysisCase_var& analysisCase, std::string& row
     return S_OK;
 }
 
-/// Replaces the file, whole or not at all, as the interface promises.
+/// Replaces the file, whole or not at all, as the interface promises. Processes that write the same
+/// file at the same time have an unfinished one each.
 HRESULT ReplaceFile(const std::string& path, const std::string& text)
 {
-    const std::string unfinished = path + ".unfinished";
+    const std::string unfinished = path + '.' + std::to_string(getpid()) + ".unfinished";
     std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
     file << text;
     file.close();

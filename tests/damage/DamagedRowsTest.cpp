@@ -2,64 +2,11 @@
 // Rows that cannot be, under a digest that is right: each is refused by the check that is for it.
 // The document: feature 1 is the container, 2 below it the manager, 3 below that the model, and
 // the last one the container of B-rep accesses.
-#include "DamagedDocument.h"
-#include "support/ResealedDocument.h"
-
-#include <gmock/gmock.h>
+#include "DamagedRows.h"
 
 namespace {
 
 using namespace damagetest;
-
-struct Row
-{
-    const char* sql;
-    std::string reason;
-};
-
-class DamagedRows : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { _document = new DamagedDocument; }
-    static void TearDownTestSuite()
-    {
-        delete _document;
-        _document = nullptr;
-    }
-
-    static void ExpectRefused(std::initializer_list<Row> rows)
-    {
-        for (const Row& row : rows) {
-            ExpectDamaged(row, _document->OpenResealed(row.sql));
-        }
-    }
-
-    /// As ExpectRefused; counts and digest stay as they were.
-    static void ExpectRefusedUnsealed(std::initializer_list<Row> rows)
-    {
-        for (const Row& row : rows) {
-            ExpectDamaged(row, OpenUnsealed(row.sql));
-        }
-    }
-
-    static ChildEnd OpenUnsealed(const std::string& sql)
-    {
-        return _document->Open([&](const std::string& path) {
-            std::string error;
-            EXPECT_TRUE(hlxtest::ChangeBySql(path, sql, error)) << sql << ": " << error;
-        });
-    }
-
-    static void ExpectDamaged(const Row& row, const ChildEnd& end)
-    {
-        EXPECT_EQ(end.code, kRefused) << row.sql << ' ' << testing::PrintToString(end);
-        EXPECT_EQ(ReasonOf(end, _document->Path()),
-                  "the file is damaged: " + row.reason + ". Restore it from a copy.")
-            << row.sql;
-    }
-
-    static inline DamagedDocument* _document = nullptr;
-};
 
 TEST_F(DamagedRows, TheDocumentRow)
 {
@@ -94,33 +41,6 @@ TEST_F(DamagedRows, CountsThatLie)
                 << sql;
         }
     }
-}
-
-TEST_F(DamagedRows, EveryColumnWithAValueOfAWrongType)
-{
-    const std::pair<const char*, std::vector<const char*>> tables[] = {
-        {"document",
-         {"kind", "late_type_count", "attribute_name_count", "link_count", "geometry_count",
-          "feature_count", "digest"}},
-        {"late_type", {"name"}},
-        {"attribute_name", {"name"}},
-        {"link", {"kind", "path"}},
-        {"geometry", {"size", "digest"}},
-        {"feature", {"id", "parent", "ordinal", "container", "late_type", "alias", "attributes"}}};
-    int cases = 0;
-    for (const auto& [table, columns] : tables) {
-        for (const std::string column : columns) {
-            for (const std::string value : {"2.5", "x'41'", "'text'", "9.3e18"}) {
-                const std::string sql =
-                    "UPDATE " + std::string(table) + " SET " + column + " = " + value;
-                const ChildEnd end = OpenUnsealed(sql);
-                EXPECT_EQ(end.code, kRefused) << sql << ' ' << testing::PrintToString(end);
-                EXPECT_FALSE(ReasonOf(end, _document->Path()).empty()) << sql;
-                ++cases;
-            }
-        }
-    }
-    EXPECT_EQ(cases, 80);
 }
 
 TEST_F(DamagedRows, PlacesInTheTree)

@@ -37,7 +37,7 @@ struct AppendValue
     }
     void operator()(const vex::Boxed<vex::DocumentLink>& value) const
     {
-        AppendQuoted(out, value->path);
+        AppendQuoted(out, static_cast<const std::string&>(value->path));
     }
     void operator()(const vex::Boxed<vex::DoubleList>& value) const { AppendBits(out, *value); }
     void operator()(const vex::Boxed<vex::DoubleTable>& value) const

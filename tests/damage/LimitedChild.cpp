@@ -28,7 +28,7 @@ void Limit(int resource, rlim_t most)
     const rlimit limit{most, most};
     if (setrlimit(static_cast<__rlimit_resource>(resource), &limit) != 0) {
         std::perror("setrlimit");
-        _exit(99);
+        _exit(kNotLimited);
     }
 }
 
@@ -41,14 +41,16 @@ void Limit(int resource, rlim_t most)
     if (!kSanitized) {
         Limit(RLIMIT_AS, static_cast<rlim_t>(kMostKibibytes) * 1024);
     }
-    int code = 98;
+    const bool failedBefore = testing::Test::HasFailure();
+    int code = kThrew;
     try {
         code = work();
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "exception: %s\n", failure.what());
     }
     std::fflush(nullptr);
-    _exit(code);
+    // What the child expects in vain would otherwise be known to the child alone.
+    _exit(!failedBefore && testing::Test::HasFailure() ? kExpectedInVain : code);
 }
 
 std::string ReadAll(int file)
@@ -107,6 +109,12 @@ ChildEnd RunLimited(const std::function<int()>& work)
     }
     close(err);
     return end;
+}
+
+void ExpectLimited(const std::function<void()>& work)
+{
+    const ChildEnd end = RunLimited([&] { return work(), 0; });
+    EXPECT_EQ(end.code, 0) << testing::PrintToString(end);
 }
 
 }  // namespace damagetest

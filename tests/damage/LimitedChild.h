@@ -20,11 +20,19 @@ inline constexpr bool kSanitized = false;
 inline constexpr int kMostSeconds = kSanitized ? 60 : 10;
 inline constexpr long kMostKibibytes = 4L * 1024 * 1024;
 
+/// What a child answers when its work cannot.
+enum ChildFailure : int {
+    kExpectedInVain = 97,  ///< an expectation of the test failed in it
+    kThrew = 98,           ///< the work threw
+    kNotLimited = 99,      ///< the limits could not be set
+};
+
 /// How a child ended and what it took.
 struct ChildEnd
 {
-    int code = -1;    ///< what its work answered; the negative number of the signal that ended it
-    std::string err;  ///< what it wrote to standard error
+    int code = -1;         ///< what its work answered, or a ChildFailure; the negative number of
+                           ///< the signal that ended it
+    std::string err;       ///< what it wrote to standard error
     double seconds = 0.0;  ///< of processor time
     long kibibytes = 0;    ///< of memory, at its peak
 
@@ -39,5 +47,8 @@ struct ChildEnd
 /// allowed, or a minute more than its processor time, is ended by a signal. The test fails when it
 /// took more memory than is allowed.
 ChildEnd RunLimited(const std::function<int()>& work);
+
+/// The same for work that says by expectations what it finds: the test fails when one of them does.
+void ExpectLimited(const std::function<void()>& work);
 
 }  // namespace damagetest

@@ -180,7 +180,9 @@ TEST_F(AbandonedFile, IsNothingElseOfThatName)
 
 TEST_F(AbandonedFile, OfAnotherUserStays)
 {
-    if (::geteuid() != 0) GTEST_SKIP() << "only root can make another user's file";
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "NOT TESTED: only root can make another user's file. Run as root.";
+    }
     WriteFile(In("a.k3x9q2~"), "theirs");
     ASSERT_EQ(::chown(In("a.k3x9q2~").c_str(), 65534, 65534), 0);
     Replace("a", "new");

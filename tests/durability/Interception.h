@@ -10,7 +10,8 @@
 namespace durabilitytest {
 
 /// While it lives, `before` is called ahead of each file operation of this process with its name in
-/// FileOperations. 0 lets it happen; another answer is the operation's.
+/// FileOperations (both ways to rename are one). 0 lets it happen; another answer is the
+/// operation's.
 class Interception
 {
 public:
@@ -23,6 +24,7 @@ public:
         Wrap("write", now.write, before);
         Wrap("synchronize", now.synchronize, before);
         Wrap("rename", now.rename, before);
+        Wrap("rename", now.renameToNew, before);
         Wrap("synchronizeFolder", now.synchronizeFolder, before);
         Wrap("remove", now.remove, before);
     }

@@ -7,7 +7,9 @@
 #include <cerrno>
 
 #include <fcntl.h>
+#include <grp.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace durabilitytest {
 namespace {
@@ -72,6 +74,43 @@ TEST_F(ReplacedFile, PassesItsPermissionsOn)
         ASSERT_TRUE(Save(changed, path, error)) << error;
         ASSERT_EQ(::stat(path.c_str(), &status), 0);
         EXPECT_EQ(status.st_mode & 07777U, mode);
+    }
+}
+
+// Somebody else's file of the group 12, replaced by who may give files to that group or may not.
+TEST_F(ReplacedFile, PassesItsGroupOnOrGrantsAnotherGroupNothing)
+{
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "NOT TESTED: only root can make another user's file. Run as root.";
+    }
+    constexpr uid_t user = 65534;
+    constexpr gid_t group = 12;
+    ASSERT_EQ(::chmod(folder.c_str(), 0777), 0);
+    struct Row
+    {
+        bool inGroup;
+        mode_t mode;
+        mode_t kept;
+    };
+    for (const Row& row : {Row{true, 0660, 0660}, Row{true, 02664, 02664}, Row{true, 04660, 0660},
+                           Row{false, 0666, 0666}, Row{false, 0606, 0606}, Row{false, 0672, 0622},
+                           Row{false, 06777, 0777}}) {
+        SCOPED_TRACE(testing::Message() << row.inGroup << ' ' << std::oct << row.mode);
+        WriteFile(path, old);
+        ASSERT_EQ(::chown(path.c_str(), 0, group), 0);
+        ASSERT_EQ(::chmod(path.c_str(), row.mode), 0);
+        EXPECT_EQ(InChild([&] {
+                      ASSERT_EQ(::setgroups(row.inGroup ? 1 : 0, &group), 0);
+                      ASSERT_EQ(::setgid(user), 0);
+                      ASSERT_EQ(::setuid(user), 0);
+                      EXPECT_TRUE(Save(changed, path, error)) << error;
+                  }),
+                  0);
+        struct stat status = {};
+        ASSERT_EQ(::stat(path.c_str(), &status), 0);
+        EXPECT_EQ(status.st_uid, user);
+        EXPECT_EQ(status.st_gid, row.inGroup ? group : gid_t{user});
+        EXPECT_EQ(status.st_mode & 07777U, row.kept);
     }
 }
 

@@ -7,8 +7,11 @@
 #include "durability/StandardError.h"
 #include "host/system/SettingsStore.h"
 #include "reference/store/StoreFixture.h"
+#include "support/TemporaryFolder.h"
 
 #include <cstdlib>
+
+#include <sys/stat.h>
 
 namespace durabilitytest {
 
@@ -97,6 +100,42 @@ protected:
     HRESULT Store() override { return _document->SaveAs(_path); }
 };
 
+// A document that was not changed is stored elsewhere by copying its file.
+class ByCopy final : public ByDocumentServices
+{
+public:
+    using ByDocumentServices::ByDocumentServices;
+    void StoreOld() override
+    {
+        ByDocumentServices::StoreOld();
+        StoreNamed(_source, _new);
+        // A change counter of its own: written anew, the same content would be another file.
+        std::string error;
+        ASSERT_TRUE(hlxtest::ChangeBySql(_source, "UPDATE document SET kind = kind", error))
+            << error;
+        _sourceBytes = store::ReadFile(_source);
+        ASSERT_EQ(::chmod(_elsewhere.Path().c_str(), 0755), 0) << "who saves may be another user";
+    }
+    void Prepare() override
+    {
+        _document = std::make_unique<NamedDocument>(_source);
+        ASSERT_TRUE(_document->IsOpen());
+    }
+    std::string State() override
+    {
+        const std::string state = ByDocumentServices::State();
+        return state == "new" && store::ReadFile(_path) != _sourceBytes ? "not a copy" : state;
+    }
+
+protected:
+    HRESULT Store() override { return _document->SaveAs(_path); }
+
+private:
+    hlxtest::TemporaryFolder _elsewhere;
+    const std::string _source = _elsewhere.File("source.VEXAnalysis");
+    std::string _sourceBytes;
+};
+
 class BySettings final : public WayToSave
 {
 public:
@@ -159,6 +198,7 @@ std::vector<KindOfSave> KindsOfSaves()
     return {{"DocumentWriter", Make<ByWriter>},
             {"Save", Make<ByDocumentServices>},
             {"SaveAs", Make<BySaveAs>},
+            {"SaveAsByCopy", Make<ByCopy>},
             {"SettingsCommit", Make<BySettings>}};
 }
 

@@ -38,7 +38,8 @@ struct KindOfSave
     friend void PrintTo(const KindOfSave& kind, std::ostream* stream) { *stream << kind.name; }
 };
 
-/// The store's writer; VEXDocumentServices::Save and SaveAs; VEXIIniSettingManagment::Commit.
+/// The store's writer; VEXDocumentServices::Save, SaveAs of a changed document and of an unchanged
+/// one; VEXIIniSettingManagment::Commit.
 std::vector<KindOfSave> KindsOfSaves();
 
 }  // namespace durabilitytest

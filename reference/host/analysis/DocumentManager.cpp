@@ -16,7 +16,8 @@ constexpr const char* linkType = "VEXSamDocumentLink";
 /// The path of a linked document; empty for another feature and for a link to nothing.
 std::string LinkedPath(const Feature& feature)
 {
-    return feature.Kind().IsKindOf(linkType) ? feature.GetAs<DocumentLink>("Document").path : "";
+    if (!feature.Kind().IsKindOf(linkType)) return {};
+    return feature.GetAs<DocumentLink>("Document").path;
 }
 
 }  // namespace

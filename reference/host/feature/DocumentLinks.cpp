@@ -74,8 +74,12 @@ std::vector<std::string> LinkedPaths(const Document& document)
         }
         feature.ForEachSet([&](int, const Value& value) {
             const auto* const link = std::get_if<Boxed<DocumentLink>>(&value);
-            if (link != nullptr && !(*link)->path.empty() && seen.insert((*link)->path).second) {
-                paths.push_back((*link)->path);
+            if (link == nullptr) {
+                return;
+            }
+            const std::string& path = (*link)->path;
+            if (!path.empty() && seen.insert(path).second) {
+                paths.push_back(path);
             }
         });
     };

@@ -20,6 +20,7 @@ namespace {
 
 using store::AttributeKind;
 using system::Quoted;
+using system::QuotedStart;
 
 class DocumentLoader
 {
@@ -30,10 +31,11 @@ public:
     bool Load(Document& document, std::string& error);
 
 private:
-    /// A late type of the file: this process's type of that name, and its index for each attribute
-    /// name of the file.
+    /// A late type of the file: this process's type of that name, and its index for the attribute
+    /// names of the file as far as features of the type have them.
     struct Kind
     {
+        static constexpr int unknown = -2;
         const LateType* type = nullptr;
         std::vector<int> attributes;
     };
@@ -46,16 +48,17 @@ private:
     };
 
     bool Refuse(const store::FeatureRow& row, std::string_view reason, std::string& error) const;
-    const Kind* KindOf(store::NameIndex index);
+    Kind* KindOf(store::NameIndex index);
+    int IndexOf(Kind& kind, store::NameIndex name) const;
     bool AddFeature(FeatureTree& tree, const store::FeatureRow& row, std::string& error);
-    bool AddAttribute(Feature& feature, const Kind& kind, const store::Attribute& attribute,
+    bool AddAttribute(Feature& feature, Kind& kind, const store::Attribute& attribute,
                       std::string& reason);
     Value ValueOf(const store::Attribute& attribute) const;
 
     store::DocumentReader& _reader;
     const std::string& _path;
     std::vector<Kind> _kinds;
-    std::map<store::Id, std::string> _links;
+    std::map<store::Id, SharedText> _links;
     std::vector<Feature*> _features;  ///< by row
     std::vector<PendingReference> _references;
 };
@@ -71,25 +74,32 @@ DocumentLoader::DocumentLoader(store::DocumentReader& reader, const std::string&
 bool DocumentLoader::Refuse(const store::FeatureRow& row, std::string_view reason,
                             std::string& error) const
 {
-    const std::string alias = row.alias ? " " + Quoted(*row.alias) : "";
+    const std::string alias = row.alias ? " " + QuotedStart(*row.alias) : "";
     error = fmt::format("{}: feature {}{}: {}", Quoted(_path), row.id, alias, reason);
     return false;
 }
 
 /// Null when no catalogue has the type.
-const DocumentLoader::Kind* DocumentLoader::KindOf(store::NameIndex index)
+DocumentLoader::Kind* DocumentLoader::KindOf(store::NameIndex index)
 {
     Kind& kind = _kinds[index];
     if (kind.type == nullptr) {
         kind.type = LateTypes::Instance().Find(_reader.LateTypes()[index]);
-        if (kind.type == nullptr) {
-            return nullptr;
-        }
-        for (const std::string& name : _reader.AttributeNames()) {
-            kind.attributes.push_back(kind.type->IndexOf(name));
-        }
     }
-    return &kind;
+    return kind.type == nullptr ? nullptr : &kind;
+}
+
+/// -1 when the type has no attribute of that name.
+int DocumentLoader::IndexOf(Kind& kind, store::NameIndex name) const
+{
+    if (name >= kind.attributes.size()) {
+        kind.attributes.resize(std::size_t{name} + 1, Kind::unknown);
+    }
+    int& index = kind.attributes[name];
+    if (index == Kind::unknown) {
+        index = kind.type->IndexOf(_reader.AttributeNames()[name]);
+    }
+    return index;
 }
 
 Value DocumentLoader::ValueOf(const store::Attribute& attribute) const
@@ -115,7 +125,7 @@ Value DocumentLoader::ValueOf(const store::Attribute& attribute) const
         case AttributeKind::Link: {
             const auto link = _links.find(attribute.integer);
             return Boxed<DocumentLink>(
-                DocumentLink{link == _links.end() ? std::string() : link->second});
+                DocumentLink{link == _links.end() ? SharedText() : link->second});
         }
         case AttributeKind::List:
             return Boxed<DoubleList>(doubles());
@@ -125,13 +135,13 @@ Value DocumentLoader::ValueOf(const store::Attribute& attribute) const
     return false;
 }
 
-bool DocumentLoader::AddAttribute(Feature& feature, const Kind& kind,
-                                  const store::Attribute& attribute, std::string& reason)
+bool DocumentLoader::AddAttribute(Feature& feature, Kind& kind, const store::Attribute& attribute,
+                                  std::string& reason)
 {
-    const int index = kind.attributes[attribute.name];
+    const int index = IndexOf(kind, attribute.name);
     if (index < 0) {
         reason = fmt::format("the late type {} has no attribute {}", Quoted(kind.type->name),
-                             Quoted(_reader.AttributeNames()[attribute.name]));
+                             QuotedStart(_reader.AttributeNames()[attribute.name]));
         return false;
     }
     const AttributeDefinition& definition = kind.type->attributes[static_cast<std::size_t>(index)];
@@ -152,12 +162,12 @@ bool DocumentLoader::AddAttribute(Feature& feature, const Kind& kind,
 
 bool DocumentLoader::AddFeature(FeatureTree& tree, const store::FeatureRow& row, std::string& error)
 {
-    const Kind* const kind = KindOf(row.lateType);
+    Kind* const kind = KindOf(row.lateType);
     if (kind == nullptr) {
         return Refuse(
             row,
             fmt::format("no catalogue defines its late type {}. Install the library that does.",
-                        Quoted(_reader.LateTypes()[row.lateType])),
+                        QuotedStart(_reader.LateTypes()[row.lateType])),
             error);
     }
     const std::int64_t parentRow = _reader.Place().parentRow;
@@ -199,9 +209,7 @@ bool DocumentLoader::Load(Document& document, std::string& error)
             return false;
         }
     }
-    if (!_reader.Finish(error)) {
-        return false;
-    }
+    if (!_reader.Finish(error)) return false;
     for (const PendingReference& reference : _references) {
         if (reference.feature->Set(reference.attribute, Reference{reference.target}) != S_OK) {
             error = fmt::format(

@@ -50,6 +50,7 @@ private:
     std::unordered_map<const LateType*, Kind> _kinds;
     std::map<std::string, store::Id> _links;
     std::string _fault;
+    bool _writerRefused = false;  ///< a name or a link: it tells why itself
 };
 
 DocumentSaver::Kind* DocumentSaver::KindOf(const LateType& type)
@@ -96,6 +97,7 @@ bool DocumentSaver::Pack(Kind& kind, const LateType& type, int index, const Valu
     if (!name) {
         name = _writer.AttributeName(type.attributes[place].name);
         if (!name) {
+            _writerRefused = true;
             return false;
         }
     }
@@ -114,6 +116,7 @@ bool DocumentSaver::Pack(Kind& kind, const LateType& type, int index, const Valu
         case ValueKind::DocumentLink: {
             const std::optional<store::Id> link =
                 LinkTo(std::get<Boxed<DocumentLink>>(value)->path);
+            _writerRefused = _writerRefused || !link;
             return link && _packer.AddLink(*name, *link);
         }
         case ValueKind::List:
@@ -146,7 +149,7 @@ bool DocumentSaver::AddFeature(const Feature& feature, int container)
         row.alias = feature.Alias();
     }
     row.attributes = _packer.Packed();
-    if (!packed) {
+    if (!packed && !_writerRefused) {
         _fault = fmt::format(
             "{}: feature {}: its attributes are too large to be stored. Shorten its texts, lists "
             "and tables.",
@@ -157,14 +160,16 @@ bool DocumentSaver::AddFeature(const Feature& feature, int container)
 
 /// Stores a document that is still as it was stored, by its file. Onto that file itself it is
 /// written anew: that also mends what became of the file.
-store::CopyResult CopyDocument(Document& document, const std::string& path, std::string& error)
+store::CopyResult CopyDocument(Document& document, const std::string& path,
+                               system::Existing existing, std::string& error)
 {
     const Document::StoredForm* const stored = document.Stored();
     if (stored == nullptr || stored->path == path ||
         (stored->hasLinks && system::FolderOf(stored->path) != system::FolderOf(path))) {
         return store::CopyResult::OtherContent;
     }
-    const auto result = store::CopyDocumentFile(stored->path, stored->summary, path, error);
+    const auto result =
+        store::CopyDocumentFile(stored->path, stored->summary, path, existing, error);
     if (result == store::CopyResult::Copied) {
         const Document::StoredForm original = *stored;
         document.SetStored(path, original.summary, original.hasLinks);
@@ -174,14 +179,19 @@ store::CopyResult CopyDocument(Document& document, const std::string& path, std:
 
 }  // namespace
 
-bool SaveDocument(Document& document, const std::string& path, std::string& error)
+bool SaveDocument(Document& document, const std::string& path, std::string& error,
+                  system::Existing existing)
 {
-    const store::CopyResult copied = CopyDocument(document, path, error);
+    const store::CopyResult copied = CopyDocument(document, path, existing, error);
     if (copied != store::CopyResult::OtherContent) {
         return copied == store::CopyResult::Copied;
     }
     store::DocumentWriter writer;
-    bool sound = writer.Begin(path, document.DocType(), static_cast<int>(document.DataVersion()));
+    bool sound =
+        writer.Begin(path, document.DocType(), static_cast<int>(document.DataVersion()), existing);
+    if (!sound) {
+        return writer.Commit(error);  // tells why
+    }
     for (const std::uint64_t number : document.Blobs().Numbers()) {
         std::span<const std::byte> bytes;
         if (!document.Geometry(number, bytes, error)) {

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <new>
 
 namespace vex {
@@ -29,6 +28,19 @@ std::string NameOf(const Document& document)
     return document.Path().empty()
                ? std::string("a new document of type ") + Document::TypeName(document.DocType())
                : Quoted(document.Path());
+}
+
+/// Does `work`. When memory runs out meanwhile, the program keeps what it has, and is told: a
+/// document that is not stored yet is not lost with the process.
+template <class Work>
+HRESULT WithinMemory(const std::string& what, std::string& error, Work&& work)
+{
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        error = system::NotEnoughMemory(what);
+        return E_FAIL;
+    }
 }
 
 }  // namespace
@@ -67,9 +79,7 @@ Document* DocumentSession::Find(std::string_view path) const
     }
     std::string ignored;
     const std::string absolute = AbsoluteDocumentPath(path, ignored);
-    if (absolute.empty() || _byPath.empty()) {
-        return nullptr;
-    }
+    if (absolute.empty() || _byPath.empty()) return nullptr;
     Document* const document = FindKnown(absolute);
     return document != nullptr ? document : FindKnown(DocumentPathIdentity(absolute));
 }
@@ -99,21 +109,26 @@ void DocumentSession::Forget(const Document& document)
 HRESULT DocumentSession::Load(const std::string& absolutePath, bool readOnly, Document*& document,
                               std::string& error)
 {
-    DocumentHolder loaded;
+    return WithinMemory(Quoted(absolutePath), error, [&] {
+        DocumentHolder loaded = LoadDocument(absolutePath, error);
+        if (loaded == nullptr) return E_FAIL;
+        loaded->SetReadOnly(readOnly);
+        document = Keep(std::move(loaded));
+        return S_OK;
+    });
+}
+
+Document* DocumentSession::Keep(DocumentHolder document)
+{
+    _documents.reserve(_documents.size() + 1);
     try {
-        loaded = LoadDocument(absolutePath, error);
-    } catch (const std::bad_alloc&) {
-        error = Quoted(absolutePath) +
-                ": there is not enough memory for it. Remove other documents and try again.";
+        if (!document->Path().empty()) Remember(*document);
+    } catch (...) {
+        Forget(*document);
+        throw;
     }
-    if (loaded == nullptr) {
-        return E_FAIL;
-    }
-    loaded->SetReadOnly(readOnly);
-    _documents.push_back(loaded.get());
-    document = loaded.release();
-    Remember(*document);
-    return S_OK;
+    _documents.push_back(document.get());
+    return document.release();
 }
 
 HRESULT DocumentSession::Open(std::string_view path, bool readOnly, Document*& document,
@@ -156,13 +171,13 @@ HRESULT DocumentSession::New(std::string_view type, Document*& document, std::st
                 "in one of them.";
         return E_INVALIDARG;
     }
-    if (!LateTypes::Instance().AreLoaded(error)) {
-        return E_FAIL;
-    }
-    _documents.push_back(Make(*known).release());
-    document = _documents.back();
-    document->SetOfProgram(true);
-    return S_OK;
+    if (!LateTypes::Instance().AreLoaded(error)) return E_FAIL;
+    return WithinMemory(std::string("a new document of type ") + Document::TypeName(*known), error,
+                        [&] {
+                            document = Keep(Make(*known));
+                            document->SetOfProgram(true);
+                            return S_OK;
+                        });
 }
 
 HRESULT DocumentSession::Save(Document& document, std::string& error)
@@ -175,7 +190,9 @@ HRESULT DocumentSession::Save(Document& document, std::string& error)
         error = NameOf(document) + ": it has no path yet. Store it under a path first.";
         return E_FAIL;
     }
-    return SaveDocument(document, document.Path(), error) ? S_OK : E_FAIL;
+    return WithinMemory(NameOf(document), error, [&] {
+        return SaveDocument(document, document.Path(), error) ? S_OK : E_FAIL;
+    });
 }
 
 HRESULT DocumentSession::SaveAs(Document& document, std::string_view path, std::string_view type,
@@ -198,21 +215,15 @@ HRESULT DocumentSession::SaveAs(Document& document, std::string_view path, std::
                 ": another open document is stored there. Remove that document first.";
         return E_FAIL;
     }
-    std::error_code code;
-    if (!replaceExisting &&
-        std::filesystem::exists(std::filesystem::symlink_status(absolute, code))) {
-        error = Quoted(absolute) +
-                ": there is such a file already. Give another path, or allow it to be replaced.";
-        return E_FAIL;
-    }
-    if (!SaveDocument(document, absolute, error)) {
-        return E_FAIL;
-    }
-    Forget(document);
-    document.SetPath(absolute);
-    Remember(document);
-    document.SetReadOnly(false);
-    return S_OK;
+    return WithinMemory(Quoted(absolute), error, [&] {
+        const auto existing = replaceExisting ? system::Existing::Replace : system::Existing::Keep;
+        if (!SaveDocument(document, absolute, error, existing)) return E_FAIL;
+        Forget(document);
+        document.SetPath(absolute);
+        Remember(document);
+        document.SetReadOnly(false);
+        return S_OK;
+    });
 }
 
 HRESULT DocumentSession::Remove(Document& document, bool force, std::string& error)

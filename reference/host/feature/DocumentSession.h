@@ -67,6 +67,8 @@ private:
 
     HRESULT Load(const std::string& absolutePath, bool readOnly, Document*& document,
                  std::string& error);
+    /// Takes a document into the session, or throws and leaves the session as it was.
+    Document* Keep(DocumentHolder document);
     Document* FindKnown(const std::string& name) const;
     void Remember(Document& document);
     void Forget(const Document& document);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/feature/Document.h"
+#include "host/system/AtomicFile.h"
 
 #include <string>
 
@@ -17,6 +18,7 @@ VEX_EXPORT DocumentHolder LoadDocument(const std::string& path, std::string& err
 /// Stores a document in a file, whole or not at all; the document's own path stays as it is. One
 /// that is as it was stored in another file is stored as a copy of that file. References to
 /// features that are gone are stored as not set, links relative to the file. @param path absolute
-VEX_EXPORT bool SaveDocument(Document& document, const std::string& path, std::string& error);
+VEX_EXPORT bool SaveDocument(Document& document, const std::string& path, std::string& error,
+                             system::Existing existing = system::Existing::Replace);
 
 }  // namespace vex

@@ -43,7 +43,7 @@ private:
     };
 
     std::vector<Feature*>
-        _dense;  ///< by id; no more than a few times as long as there are features
+        _dense;  ///< by id; no more than a few times as long as there ever were features
     std::size_t _denseSize = 0;
 
     /// The others, by open addressing in a power of two of slots.

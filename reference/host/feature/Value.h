@@ -33,9 +33,34 @@ struct Reference
     friend bool operator==(const Reference&, const Reference&) = default;
 };
 
+/// A text whose copies share it: it is there once, however many values have it.
+class SharedText
+{
+public:
+    SharedText() = default;
+    SharedText(std::string text)
+        : _text(text.empty() ? nullptr : std::make_shared<const std::string>(std::move(text)))
+    {}
+    SharedText(const char* text) : SharedText(std::string(text)) {}
+    /// Lives as long as this text or a copy of it.
+    operator const std::string&() const { return _text == nullptr ? Empty() : *_text; }
+    friend bool operator==(const SharedText& left, const SharedText& right)
+    {
+        return static_cast<const std::string&>(left) == static_cast<const std::string&>(right);
+    }
+
+private:
+    static const std::string& Empty()
+    {
+        static const std::string empty;
+        return empty;
+    }
+    std::shared_ptr<const std::string> _text;  ///< null: empty
+};
+
 struct DocumentLink
 {
-    std::string path;  ///< absolute while open; stored relative to the document
+    SharedText path;  ///< absolute while open; stored relative to the document
     friend bool operator==(const DocumentLink&, const DocumentLink&) = default;
 };
 

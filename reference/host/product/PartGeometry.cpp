@@ -28,7 +28,8 @@ bool PartGeometry::Bytes(std::span<const std::byte>& bytes, std::string& error)
         return false;
     }
     if (!_part->Geometry(static_cast<std::uint64_t>(number), bytes, error)) {
-        error = file + error;
+        // What was wrong with the file itself names it.
+        if (!error.starts_with(file)) error.insert(0, file);
         return false;
     }
     return true;

@@ -24,20 +24,22 @@ void StoreDoubles(std::byte* bytes, std::span<const double> values)
 
 }  // namespace
 
-AttributePacker::AttributePacker() : _bytes(kCountSize) {}
+AttributePacker::AttributePacker() : _bytes(kCountSize), _size(kCountSize) {}
 
 void AttributePacker::Clear()
 {
     _count = 0;
-    _bytes.assign(kCountSize, std::byte{0});
+    _size = kCountSize;
+    StoreLittleEndian(_bytes.data(), _count);
 }
 
 // Where the value goes, or null when there are too many attributes.
 std::byte* AttributePacker::Append(NameIndex name, AttributeKind kind, std::size_t valueSize)
 {
     if (_count == std::numeric_limits<std::uint16_t>::max()) return nullptr;
-    const std::size_t start = _bytes.size();
-    _bytes.resize(start + kHeadSize + valueSize);
+    const std::size_t start = _size;
+    _size += kHeadSize + valueSize;
+    if (_bytes.size() < _size) _bytes.resize(_size * 2);
     StoreLittleEndian(_bytes.data(), ++_count);
     StoreLittleEndian(_bytes.data() + start, name);
     _bytes[start + 2] = static_cast<std::byte>(kind);

@@ -34,13 +34,14 @@ public:
                   std::span<const double> values);
 
     /// The packed attributes; they live until the next operation on this packer.
-    Bytes Packed() const { return _bytes; }
+    Bytes Packed() const { return Bytes(_bytes).first(_size); }
 
 private:
     std::byte* Append(NameIndex name, AttributeKind kind, std::size_t valueSize);
     bool AddNumber(NameIndex name, AttributeKind kind, std::uint64_t bits);
 
-    std::vector<std::byte> _bytes;
+    std::vector<std::byte> _bytes;  ///< the first _size of them
+    std::size_t _size;
     std::uint16_t _count = 0;
 };
 

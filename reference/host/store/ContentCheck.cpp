@@ -22,17 +22,9 @@ namespace {
 
 using system::TextFault;
 
-bool CheckName(std::string_view name, std::int64_t count, std::string_view table,
-               std::string& reason)
-{
-    const char* fault = name.empty() ? "is empty" : TextFault(name);
-    if (fault != nullptr) {
-        reason = fmt::format("table {}, name {}: it {}", table, count, fault);
-    } else if (count >= static_cast<std::int64_t>(kMaximumNames)) {
-        reason = fmt::format("table {}: there are more than {} names", table, kMaximumNames);
-    }
-    return reason.empty();
-}
+// Between two paths of 4096 bytes: up from one with three bytes for at least two, down to the
+// other. Every use of a link holds its path: longer ones would make much of a small file.
+constexpr std::size_t kLongestLink = 10240;
 
 // The fields of a feature row that have a fixed size, as they enter the digest.
 void AddToDigest(const FeatureRow& feature, std::int64_t ordinal, system::DigestStream& digest)
@@ -68,9 +60,24 @@ std::string At(const FeatureRow& feature, std::string_view reason)
 
 }  // namespace
 
+// One name under two numbers would let a feature have an attribute twice.
+bool ContentCheck::AddName(std::string_view name, std::string_view table, Names& names,
+                           std::string& reason)
+{
+    const char* fault = name.empty() ? "is empty" : TextFault(name);
+    if (names.size() >= kMaximumNames) {
+        reason = fmt::format("table {}: there are more than {} names", table, kMaximumNames);
+        return false;
+    }
+    if (fault == nullptr && names.emplace(name).second) return true;
+    reason = fmt::format("table {}, name {}: it {}", table, names.size(),
+                         fault != nullptr ? fault : "stands twice");
+    return false;
+}
+
 bool ContentCheck::AddLateType(std::string_view name, std::string& reason)
 {
-    if (!CheckName(name, _counts.lateTypes, "late_type", reason)) return false;
+    if (!AddName(name, "late_type", _lateTypes, reason)) return false;
     ++_counts.lateTypes;
     _lateTypeDigest.AddText(name);
     return true;
@@ -78,7 +85,7 @@ bool ContentCheck::AddLateType(std::string_view name, std::string& reason)
 
 bool ContentCheck::AddAttributeName(std::string_view name, std::string& reason)
 {
-    if (!CheckName(name, _counts.attributeNames, "attribute_name", reason)) return false;
+    if (!AddName(name, "attribute_name", _attributeNames, reason)) return false;
     ++_counts.attributeNames;
     _lastUse.push_back(-1);
     _attributeNameDigest.AddText(name);
@@ -94,6 +101,9 @@ bool ContentCheck::AddLink(const LinkRow& link, std::string& reason)
         reason = fmt::format("link {}: its path is not a relative one", link.id);
     } else if (fault != nullptr) {
         reason = fmt::format("link {}: its path {}", link.id, fault);
+    } else if (link.path.size() > kLongestLink) {
+        reason = fmt::format("link {}: its path has {} bytes, more than the {} allowed", link.id,
+                             link.path.size(), kLongestLink);
     }
     if (!reason.empty()) return false;
     ++_counts.links;

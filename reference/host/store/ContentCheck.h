@@ -6,6 +6,7 @@
 #include "host/store/Rows.h"
 #include "host/system/Digest.h"
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,9 @@ private:
         std::int64_t row;
         std::int64_t children;
     };
+    using Names = std::set<std::string, std::less<>>;  // no file can be made whose names collide
+    static bool AddName(std::string_view name, std::string_view table, Names& names,
+                        std::string& reason);
     bool FindPlace(const FeatureRow& feature, Place& place, std::string& reason);
     bool CheckAttributes(const FeatureRow& feature, std::string& reason);
     std::string NoSuchParent(const FeatureRow& feature) const;
@@ -58,6 +62,8 @@ private:
     system::DigestStream _geometryDigest;
     system::DigestStream _featureDigest;
 
+    Names _lateTypes;
+    Names _attributeNames;
     std::vector<Id> _ids;              // of features, as they came
     std::vector<Ancestor> _ancestors;  // from a root to the last feature
     std::int64_t _roots = 0;           // how many so far

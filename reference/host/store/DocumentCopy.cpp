@@ -11,7 +11,7 @@
 namespace vex::store {
 
 CopyResult CopyDocumentFile(const std::string& from, const system::FileSummary& summary,
-                            const std::string& to, std::string& error)
+                            const std::string& to, system::Existing existing, std::string& error)
 {
     // Never waits: a pipe may have taken the file's place.
     const system::Descriptor source(system::Descriptor::AboveStandardStreams(
@@ -22,14 +22,19 @@ CopyResult CopyDocumentFile(const std::string& from, const system::FileSummary& 
         return CopyResult::OtherContent;
     }
     system::AtomicFile copy;
-    if (!copy.Begin(to, error)) return CopyResult::Failed;
+    if (!copy.Begin(to, error, existing)) return CopyResult::Failed;
     std::string reason;
-    const auto copied = system::CopyFileBytes(source.Number(), copy.File(), reason);
-    if (!copied) {
-        error = system::AtomicFile::Failure(to, "writing the document", reason);
-        return CopyResult::Failed;
+    system::FileSummary copied;
+    switch (system::CopyFileBytes(source.Number(), copy.File(), copied, reason)) {
+        case system::CopyEnd::Copied:
+            break;
+        case system::CopyEnd::NotRead:
+            return CopyResult::OtherContent;
+        case system::CopyEnd::NotWritten:
+            error = system::AtomicFile::Failure(to, "writing the document", reason);
+            return CopyResult::Failed;
     }
-    if (*copied != summary) return CopyResult::OtherContent;
+    if (copied != summary) return CopyResult::OtherContent;
     return copy.Commit(error) ? CopyResult::Copied : CopyResult::Failed;
 }
 

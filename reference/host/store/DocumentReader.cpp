@@ -9,8 +9,6 @@
 
 #include <algorithm>
 
-#include <sys/stat.h>
-
 namespace vex::store {
 namespace {
 
@@ -37,7 +35,6 @@ bool DocumentReader::Open(std::string_view path, std::string& error, int newestD
     Close();
     _check = ContentCheck();
     _fault.clear();
-    _bytesRead = 0;
     _summary.reset();
     _atEnd = false;
     _lateTypes.clear();
@@ -52,10 +49,7 @@ bool DocumentReader::Open(std::string_view path, std::string& error, int newestD
     const system::DatabaseKind kind{"a document", kApplicationId, newestDataVersion};
     bool missing = false;
     if (!system::OpenDatabaseFile(path, kind, _file, _dataVersion, missing, error)) return false;
-    struct stat status = {};
-    if (::fstat(_file.Number(), &status) == 0) {
-        _fileSize = static_cast<std::uint64_t>(status.st_size);
-    }
+    _budget.emplace(_file.Number());
     std::string reason;
     if (_database.OpenForReading(_file.Number(), reason) &&
         DocumentSchema().Matches(_database, reason) && ReadTables(reason)) {
@@ -107,7 +101,7 @@ bool DocumentReader::ReadFeature(FeatureRow& feature, std::string& reason)
     feature.alias.reset();
     if (hasAlias) feature.alias = alias;
     std::string fault;
-    if (!Account(alias.size() + feature.attributes.size(), fault)) return refuse(fault);
+    if (!_budget->Take(alias.size() + feature.attributes.size(), fault)) return refuse(fault);
     if (!_check.AddFeature(feature, _place, fault)) return refuse(fault);
     if (ordinal != _place.ordinal) {
         return refuse(fmt::format("its ordinal is {} instead of {}", ordinal, _place.ordinal));

@@ -10,6 +10,7 @@
 #include "host/system/Database.h"
 #include "host/system/Descriptor.h"
 #include "host/system/FileBytes.h"
+#include "host/system/ReadBudget.h"
 
 #include <optional>
 #include <span>
@@ -87,7 +88,6 @@ private:
     bool ReadFeature(FeatureRow& feature, std::string& reason);
     bool CheckWhole(std::string& reason);
     bool Ended(int result, std::string& reason);
-    bool Account(std::size_t bytes, std::string& reason);
 
     std::string _path;
     system::Descriptor _file;
@@ -96,9 +96,8 @@ private:
     ContentCheck _check;
     ContentCheck::Place _place;
     std::string _fault;  // found by Next
-    std::uint64_t _fileSize = 0;
+    std::optional<system::ReadBudget> _budget;
     std::optional<system::FileSummary> _summary;
-    std::uint64_t _bytesRead = 0;
     bool _atEnd = false;
     bool _finished = false;
 

@@ -26,15 +26,6 @@ bool DocumentReader::Ended(int result, std::string& reason)
     return result == SQLITE_DONE;
 }
 
-// Rows that share their bytes would make a small file cost time without end.
-bool DocumentReader::Account(std::size_t bytes, std::string& reason)
-{
-    _bytesRead += bytes;
-    if (_bytesRead <= _fileSize) return true;
-    reason = "the rows hold more bytes than the file has";
-    return false;
-}
-
 bool DocumentReader::ReadDocument(std::string& reason)
 {
     system::Statement select;
@@ -60,7 +51,7 @@ bool DocumentReader::ReadDocument(std::string& reason)
     }
     const std::optional<DocumentKind> kind = KindFromName(kindName);
     if (!kind) {
-        reason = fmt::format("table document: unknown kind {}", system::Quoted(kindName));
+        reason = fmt::format("table document: unknown kind {}", system::QuotedStart(kindName));
         return false;
     }
     _kind = *kind;
@@ -84,7 +75,7 @@ bool DocumentReader::ReadNames(const char* sql, std::vector<std::string>& names,
             reason = fmt::format("name {} of a table of names is missing", names.size());
             return false;
         }
-        if (!Account(name.size(), reason) || !(_check.*add)(name, reason)) return false;
+        if (!_budget->Take(name.size(), reason) || !(_check.*add)(name, reason)) return false;
         names.emplace_back(name);
     }
     return Ended(result, reason);
@@ -106,11 +97,12 @@ bool DocumentReader::ReadLinks(std::string& reason)
         }
         const std::optional<DocumentKind> kind = KindFromName(kindName);
         if (!kind) {
-            reason = fmt::format("link {}: unknown kind {}", link.id, system::Quoted(kindName));
+            reason =
+                fmt::format("link {}: unknown kind {}", link.id, system::QuotedStart(kindName));
             return false;
         }
         link.kind = *kind;
-        if (!Account(kindName.size() + link.path.size(), reason)) return false;
+        if (!_budget->Take(kindName.size() + link.path.size(), reason)) return false;
         if (!_check.AddLink(link, reason)) return false;
         _linkPaths.emplace_back(link.path);
         _links.push_back(link);
@@ -137,7 +129,7 @@ bool DocumentReader::ReadGeometries(std::string& reason)
             reason = fmt::format("geometry {}: a value is of a wrong type", id);
             return false;
         }
-        if (!Account(bytes.size(), reason)) return false;
+        if (!_budget->Take(bytes.size(), reason)) return false;
         if (!_check.AddGeometry(id, size, digest, reason)) return false;
         _geometryIds.push_back(id);
         _geometrySizes.push_back(size);

@@ -44,7 +44,8 @@ bool DocumentWriter::FailWriting(std::string_view reason)
     return End(system::AtomicFile::Failure(_path, "writing the document", reason));
 }
 
-bool DocumentWriter::Begin(std::string_view path, DocumentKind kind, int dataVersion)
+bool DocumentWriter::Begin(std::string_view path, DocumentKind kind, int dataVersion,
+                           system::Existing existing)
 {
     End("");
     _path = path;
@@ -61,7 +62,7 @@ bool DocumentWriter::Begin(std::string_view path, DocumentKind kind, int dataVer
             fmt::format("its data version {} is newer than {}, the newest that can be read again",
                         dataVersion, kDataVersion));
     }
-    if (!_file.Begin(path, reason)) return End(std::move(reason));
+    if (!_file.Begin(path, reason, existing)) return End(std::move(reason));
     return Prepare(reason) || FailWriting(reason);
 }
 

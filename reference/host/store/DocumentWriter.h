@@ -24,8 +24,9 @@ namespace vex::store {
 /// next sibling, siblings in their order. Every row is checked as on opening.
 ///
 /// The first failure ends the save: the operation answers false, as does each after it, and Commit
-/// tells the message. Until Commit succeeds the file that was there before is untouched (see
-/// AtomicFile for its permissions and for links); a writer destroyed before leaves nothing behind.
+/// tells the message. Until Commit succeeds the file that was there before is untouched, with the
+/// exception that AtomicFile::Commit names (see AtomicFile for permissions and links too); a writer
+/// destroyed before leaves nothing behind.
 class VEX_EXPORT DocumentWriter
 {
 public:
@@ -36,8 +37,9 @@ public:
 
     /// Begins the save of a document of `kind` to `path`; its folder must exist. A save begun
     /// before is given up. `dataVersion` is at least 1 and at most kDataVersion: what
-    /// is saved can be opened.
-    bool Begin(std::string_view path, DocumentKind kind, int dataVersion = kDataVersion);
+    /// is saved can be opened. With Existing::Keep the save fails when there is such a file.
+    bool Begin(std::string_view path, DocumentKind kind, int dataVersion = kDataVersion,
+               system::Existing existing = system::Existing::Replace);
 
     /// The index of a late type's name, the same one for the same name; none after a failure.
     std::optional<NameIndex> LateType(std::string_view name);

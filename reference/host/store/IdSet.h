@@ -2,6 +2,7 @@
 // Which ids there are, and whether one stands twice.
 #pragma once
 
+#include "VEXTypes.h"
 #include "host/store/Rows.h"
 
 #include <vector>
@@ -10,7 +11,7 @@ namespace vex::store {
 
 /// Ids are mostly dense: a bit for each tells it then, in a fraction of the time that sorting them
 /// takes. Else they are sorted.
-class IdSet
+class VEX_EXPORT IdSet
 {
 public:
     /// @param ids positive, in any order

@@ -35,6 +35,38 @@ bool CheckLasts(std::string_view path, std::string& error)
     return false;
 }
 
+std::string ThereIsOne(std::string_view path)
+{
+    return fmt::format(
+        "{}: there is such a file already. Give another path, or allow it to be replaced.",
+        Quoted(path));
+}
+
+enum class Ownership { Both, Group, Neither, Fault };
+
+// What of the old file's ownership the new one gets. Only a privileged process can give a file to
+// another user; one that is in the group can keep that. On a Fault errno tells which.
+Ownership KeepOwnership(int file, const struct stat& now, const struct stat& old)
+{
+    if (now.st_uid == old.st_uid && now.st_gid == old.st_gid) return Ownership::Both;
+    if (::fchown(file, old.st_uid, old.st_gid) == 0) return Ownership::Both;
+    if (errno != EPERM) return Ownership::Fault;
+    if (now.st_gid == old.st_gid || ::fchown(file, uid_t(-1), old.st_gid) == 0) {
+        return Ownership::Group;
+    }
+    return errno == EPERM ? Ownership::Neither : Ownership::Fault;
+}
+
+// The permissions for a file of that ownership: what was given to a user or a group is not given to
+// another one. A group that is another one may do what all others may.
+unsigned ModeFor(Ownership kept, unsigned mode)
+{
+    if (kept != Ownership::Both) mode &= ~unsigned{S_ISUID};
+    if (kept != Ownership::Neither) return mode;
+    const unsigned others = mode & S_IRWXO;
+    return mode & ~(unsigned{S_ISGID} | (unsigned{S_IRWXG} & ~(others << 3U)));
+}
+
 }  // namespace
 
 std::string AtomicFile::Failure(std::string_view path, std::string_view step,
@@ -72,11 +104,17 @@ bool AtomicFile::ResolveTarget(std::string_view path, std::string& target, std::
     return CheckPath(target, error) && CheckLasts(target, error);
 }
 
-bool AtomicFile::Begin(std::string_view path, std::string& error)
+bool AtomicFile::Begin(std::string_view path, std::string& error, Existing existing)
 {
     Discard();
-    if (!ResolveTarget(path, _target, error)) return false;
+    _existing = existing;
     struct stat old = {};
+    if (existing == Existing::Keep && CheckPath(path, error) &&
+        ::lstat(std::string(path).c_str(), &old) == 0) {
+        error = ThereIsOne(path);
+        return false;
+    }
+    if (!ResolveTarget(path, _target, error)) return false;
     const bool exists = ::stat(_target.c_str(), &old) == 0;
     if (exists && !S_ISREG(old.st_mode)) {
         error = fmt::format(
@@ -102,12 +140,9 @@ bool AtomicFile::Begin(std::string_view path, std::string& error)
     if (!exists) return true;
     struct stat now = {};
     if (::fstat(_file.Number(), &now) != 0) return Fail("looking at the new file", errno, error);
-    const bool ownerDiffers = now.st_uid != old.st_uid || now.st_gid != old.st_gid;
-    // Only a privileged process can keep another's ownership; for others the file becomes theirs.
-    if (ownerDiffers && ::fchown(_file.Number(), old.st_uid, old.st_gid) != 0 && errno != EPERM) {
-        return Fail("keeping the file's owner", errno, error);
-    }
-    if (::fchmod(_file.Number(), mode) != 0) {
+    const Ownership kept = KeepOwnership(_file.Number(), now, old);
+    if (kept == Ownership::Fault) return Fail("keeping the file's owner", errno, error);
+    if (::fchmod(_file.Number(), ModeFor(kept, mode)) != 0) {
         return Fail("keeping the file's permissions", errno, error);
     }
     return true;
@@ -124,7 +159,13 @@ bool AtomicFile::Commit(std::string& error)
     if (synchronized < 0) return Fail("putting the new file on the disk", -synchronized, error);
     // The file stays open, and with it the lock that keeps it, until it has its name. Closing it
     // can report nothing that synchronising it did not.
-    const int renamed = operations.rename(_temporary, _target);
+    const auto& rename = _existing == Existing::Keep ? operations.renameToNew : operations.rename;
+    const int renamed = rename(_temporary, _target);
+    if (renamed == -EEXIST && _existing == Existing::Keep) {
+        error = ThereIsOne(_target);
+        Discard();
+        return false;
+    }
     if (renamed < 0) return Fail("giving the new file its name", -renamed, error);
     _temporary.clear();
     _file.Close();

@@ -3,6 +3,7 @@
 #include "host/system/CallCounts.h"
 
 #include "host/system/MessageTexts.h"
+#include "host/system/OutputFile.h"
 
 #include <fmt/format.h>
 #include <unistd.h>
@@ -22,10 +23,12 @@ std::string Refusal(const std::string& path)
 
 bool WriteFile(const std::string& path, const std::string& text)
 {
-    std::FILE* const file = std::fopen(path.c_str(), "we");
+    system::Descriptor opened = system::OpenOutputFile(path);
+    std::FILE* const file = opened.IsOpen() ? ::fdopen(opened.Number(), "w") : nullptr;
     if (file == nullptr) {
         return false;
     }
+    opened.Release();
     const bool written = std::fwrite(text.data(), 1, text.size(), file) == text.size();
     return std::fclose(file) == 0 && written;
 }

@@ -23,7 +23,7 @@ constexpr std::string_view kMagic{"SQLite format 3\0", 16};
 
 struct Header
 {
-    std::array<unsigned char, 100> bytes{};
+    std::array<unsigned char, 101> bytes{};  // the last one begins the page behind the header
 
     std::uint32_t Number(std::size_t offset, std::size_t size) const
     {
@@ -49,6 +49,8 @@ constexpr std::size_t kPageCount = 28;
 constexpr std::size_t kTextEncoding = 56;  // 1: UTF-8
 constexpr std::size_t kUserVersion = 60;
 constexpr std::size_t kApplicationId = 68;
+constexpr std::size_t kKindOfFirstPage = 100;
+constexpr unsigned char kTableLeaf = 0x0D;
 
 std::string Refusal(std::string_view path, std::string_view reason, std::string_view remedy)
 {
@@ -142,6 +144,12 @@ bool OpenDatabaseFile(std::string_view path, const DatabaseKind& kind, Descripto
     if (header.bytes[kWriteFormat] != 1 || header.bytes[kReadFormat] != 1 ||
         header.Number(kTextEncoding, 4) != 1) {
         return refuse(DamagedMessage(path, "its header holds values that are never written"));
+    }
+    // The schema: SQLite reads all of it before anything can be asked, and pages that lead to the
+    // same page again and again would keep it busy for ever.
+    if (header.bytes[kKindOfFirstPage] != kTableLeaf) {
+        return refuse(
+            DamagedMessage(path, "its list of tables is longer than any that is written"));
     }
     return true;
 }

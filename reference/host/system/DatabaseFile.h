@@ -19,9 +19,9 @@ struct DatabaseKind
 };
 
 /// Opens `path` for reading and checks that it is a file, an SQLite database of this kind, of a
-/// version from 1 to the newest, in rollback mode and as long as its header says. Gives the open
-/// file and its version; otherwise `error` gets the whole message. A path that does not exist sets
-/// `missing` besides.
+/// version from 1 to the newest, in rollback mode, as long as its header says and with a schema of
+/// one page. Gives the open file and its version; otherwise `error` gets the whole message. A path
+/// that does not exist sets `missing` besides.
 bool OpenDatabaseFile(std::string_view path, const DatabaseKind& kind, Descriptor& file,
                       int& version, bool& missing, std::string& error);
 

@@ -152,6 +152,7 @@ int Open(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* out
     if (code != std::errc() || end != digits.data() + digits.size() || descriptor < 0) {
         return SQLITE_CANTOPEN;
     }
+    lastError = 0;
     file->pMethods = Methods();
     Self(file).descriptor = descriptor;
     Self(file).readOnly = (flags & SQLITE_OPEN_READONLY) != 0;

@@ -20,8 +20,8 @@ const char* DescriptorVfs();
 /// descriptor stays the caller's and must outlive the connection.
 std::string DescriptorName(int descriptor);
 
-/// The error number of this thread's last operation on a descriptor that failed: SQLite itself does
-/// not keep it in every case.
+/// The error number of this thread's last operation that failed since it began with a descriptor:
+/// SQLite itself does not keep it in every case. 0: none did.
 int DescriptorError();
 
 }  // namespace vex::system

@@ -20,7 +20,7 @@ template <class Take>
 int Read(int file, FileSummary& summary, Take&& take)
 {
     DigestStream digest;
-    std::vector<char> piece(std::size_t{1} << 20U);
+    std::vector<char> piece(std::size_t{1} << 16U);
     for (summary.size = 0;;) {
         const ssize_t size = ::pread(file, piece.data(), piece.size(), summary.size);
         if (size < 0 && errno == EINTR) continue;
@@ -44,16 +44,16 @@ std::optional<FileSummary> SummaryOfFile(int file)
     return code == 0 ? std::optional(summary) : std::nullopt;
 }
 
-std::optional<FileSummary> CopyFileBytes(int from, int to, std::string& reason)
+CopyEnd CopyFileBytes(int from, int to, FileSummary& summary, std::string& reason)
 {
-    FileSummary summary;
+    int written = 0;
     const int code =
         Read(from, summary, [&](const char* bytes, std::size_t size, std::int64_t offset) {
-            return CurrentFileOperations().write(to, bytes, size, offset);
+            return written = CurrentFileOperations().write(to, bytes, size, offset);
         });
-    if (code == 0) return summary;
+    if (code == 0) return CopyEnd::Copied;
     reason = SystemReason(-code);
-    return std::nullopt;
+    return written < 0 ? CopyEnd::NotWritten : CopyEnd::NotRead;
 }
 
 }  // namespace vex::system

@@ -22,9 +22,15 @@ struct FileSummary
 /// The summary of the open file `file`; none when it cannot be read.
 std::optional<FileSummary> SummaryOfFile(int file);
 
+enum class CopyEnd {
+    Copied,
+    NotRead,    ///< the file copied from cannot be read
+    NotWritten  ///< the new one cannot be written
+};
+
 /// Writes all bytes of the open file `from` to the empty file `to`, through
-/// CurrentFileOperations(), and answers their summary. None, with the system's reason in `reason`,
-/// on failure; what was written stays.
-std::optional<FileSummary> CopyFileBytes(int from, int to, std::string& reason);
+/// CurrentFileOperations(), and gives their summary. On failure `reason` gets the system's; what
+/// was written stays.
+CopyEnd CopyFileBytes(int from, int to, FileSummary& summary, std::string& reason);
 
 }  // namespace vex::system

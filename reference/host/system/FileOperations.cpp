@@ -49,6 +49,16 @@ int SynchronizeFolder(int folder)
     return answer == -EINVAL ? 0 : answer;
 }
 
+int RenameToNew(const std::string& from, const std::string& to)
+{
+    const int answer =
+        Result(::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE));
+    if (answer != -EINVAL && answer != -ENOSYS) return answer;
+    // The file system has no such operation. A link never takes another file's name either.
+    const int linked = Result(::link(from.c_str(), to.c_str()));
+    return linked < 0 ? linked : Result(::unlink(from.c_str()));
+}
+
 }  // namespace
 
 FileOperations SystemFileOperations()
@@ -63,6 +73,7 @@ FileOperations SystemFileOperations()
     operations.rename = [](const std::string& from, const std::string& to) {
         return Result(std::rename(from.c_str(), to.c_str()));
     };
+    operations.renameToNew = RenameToNew;
     operations.synchronizeFolder = SynchronizeFolder;
     operations.remove = [](const std::string& path) { return Result(::unlink(path.c_str())); };
     return operations;

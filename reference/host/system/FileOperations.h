@@ -25,6 +25,8 @@ struct FileOperations
     std::function<int(int file)> synchronize;
     /// Gives the file `from` the name `to`, in place of a file of that name. Answers 0.
     std::function<int(const std::string& from, const std::string& to)> rename;
+    /// Gives the file `from` the name `to`, when nothing has it: answers -EEXIST otherwise, else 0.
+    std::function<int(const std::string& from, const std::string& to)> renameToNew;
     /// Puts the names in the open folder on the disk. Answers 0.
     std::function<int(int folder)> synchronizeFolder;
     /// Removes the file `path`. Answers 0.

@@ -47,6 +47,22 @@ std::string Quoted(std::string_view text)
     return fmt::format("'{}'", Escaped(text, true));
 }
 
+std::string QuotedStart(std::string_view text)
+{
+    constexpr std::size_t most = 200;
+    if (text.size() <= most) return Quoted(text);
+    std::size_t size = most;
+    while (size > most - 4 && (static_cast<unsigned char>(text[size]) & 0xC0U) == 0x80U)
+        --size;  // not within a character
+    return fmt::format("{}... ({} bytes)", Quoted(text.substr(0, size)), text.size());
+}
+
+std::string NotEnoughMemory(std::string_view what)
+{
+    return fmt::format(
+        "{}: there is not enough memory for it. Remove other documents and try again.", what);
+}
+
 std::string SystemReason(int code)
 {
     // strerror would speak the locale's language.

@@ -20,6 +20,12 @@ VEX_EXPORT std::string Printable(std::string_view text);
 /// Printable text in single quotes (a quote inside is escaped): the form of names in messages.
 VEX_EXPORT std::string Quoted(std::string_view text);
 
+/// As Quoted, of a long text the beginning only: names in a file may have any length.
+VEX_EXPORT std::string QuotedStart(std::string_view text);
+
+/// The message that there is not enough memory for `what`, a name as messages show it.
+VEX_EXPORT std::string NotEnoughMemory(std::string_view what);
+
 /// The system's description of the error number `code`, in English whatever the locale.
 VEX_EXPORT std::string SystemReason(int code);
 

@@ -52,8 +52,13 @@ bool Schema::Matches(Database& database, std::string& reason) const
         reason = _fault;
         return false;
     }
+    // One page can name one long text thousands of times.
+    constexpr int longestText = 10'000;
+    const int longestValue = sqlite3_limit(database.Connection(), SQLITE_LIMIT_LENGTH, longestText);
     std::vector<std::string> found;
-    if (!List(database, _listing.size(), found, reason)) return false;
+    const bool listed = List(database, _listing.size(), found, reason);
+    sqlite3_limit(database.Connection(), SQLITE_LIMIT_LENGTH, longestValue);
+    if (!listed) return false;
     if (found == _listing) return true;
     reason = "its tables are not those of its data version";
     return false;

@@ -7,6 +7,7 @@
 #include "host/system/DatabaseFile.h"
 #include "host/system/Digest.h"
 #include "host/system/MessageTexts.h"
+#include "host/system/ReadBudget.h"
 #include "host/system/Schema.h"
 
 #include <fmt/format.h>
@@ -41,7 +42,7 @@ Digest DigestOfSettings(const Settings& settings)
     return stream.Result();
 }
 
-bool ReadRows(Database& database, Settings& settings, std::string& reason)
+bool ReadRows(Database& database, ReadBudget budget, Settings& settings, std::string& reason)
 {
     Statement statement;
     if (!statement.Prepare(database, "SELECT key, value FROM setting ORDER BY key", reason)) {
@@ -56,6 +57,7 @@ bool ReadRows(Database& database, Settings& settings, std::string& reason)
             reason = fmt::format("setting {} is not a pair of texts", settings.size() + 1);
             return false;
         }
+        if (!budget.Take(key.size() + value.size(), reason)) return false;
         if (!settings.empty() && settings.rbegin()->first >= key) {
             reason = fmt::format("setting {} repeats or is out of order", Quoted(key));
             return false;
@@ -125,7 +127,8 @@ bool ReadSettings(const std::string& path, Settings& settings, std::string& erro
     Database database;
     std::string reason;
     if (database.OpenForReading(file.Number(), reason) &&
-        SettingsSchema().Matches(database, reason) && ReadRows(database, settings, reason) &&
+        SettingsSchema().Matches(database, reason) &&
+        ReadRows(database, ReadBudget(file.Number()), settings, reason) &&
         CheckRepository(database, settings, reason)) {
         return true;
     }

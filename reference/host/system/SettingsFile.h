@@ -13,7 +13,8 @@ namespace vex::system {
 bool ReadSettings(const std::string& path,
                   std::map<std::string, std::string, std::less<>>& settings, std::string& error);
 
-/// Replaces `path` by a file with these settings. False with a message, the old file untouched.
+/// Replaces `path` by a file with these settings. False with a message; the old file is untouched
+/// with the exception that AtomicFile::Commit names.
 bool WriteSettings(const std::string& path,
                    const std::map<std::string, std::string, std::less<>>& settings,
                    std::string& error);

@@ -15,6 +15,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <new>
 
 #include <fcntl.h>
 
@@ -63,7 +64,13 @@ std::string SettingsStore::DefaultPath(std::string& error)
 bool SettingsStore::Load(std::string& error)
 {
     _changes.clear();
-    return ReadSettings(_path, _settings, error);
+    try {
+        return ReadSettings(_path, _settings, error);
+    } catch (const std::bad_alloc&) {
+        _settings.clear();
+        error = NotEnoughMemory(Quoted(_path));
+        return false;
+    }
 }
 
 std::optional<std::string_view> SettingsStore::Get(std::string_view key) const
@@ -89,6 +96,16 @@ bool SettingsStore::Set(std::string_view key, std::string_view value, std::strin
 }
 
 bool SettingsStore::Commit(std::string& error)
+{
+    try {
+        return WriteChanges(error);
+    } catch (const std::bad_alloc&) {
+        error = NotEnoughMemory(Quoted(_path));
+        return false;
+    }
+}
+
+bool SettingsStore::WriteChanges(std::string& error)
 {
     if (_changes.empty()) return true;
     if (!CheckPath(_path, error)) return false;

@@ -50,10 +50,12 @@ public:
     /// Writes what was set since the last Load or Commit into the file, which keeps whatever other
     /// processes have set meanwhile; the folder is made when missing. The file is replaced as a
     /// whole. Afterwards this object holds all its settings. False with a message: the file is as
-    /// it was, and a later Commit tries again.
+    /// it was, with the exception that AtomicFile::Commit names, and a later Commit tries again.
     bool Commit(std::string& error);
 
 private:
+    bool WriteChanges(std::string& error);
+
     std::string _path;
     Settings _settings;
     Settings _changes;  // set, not yet committed

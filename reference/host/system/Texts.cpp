@@ -2,6 +2,8 @@
 // Validity, quoting and numbers.
 #include "host/system/Texts.h"
 
+#include "host/system/TextBuffer.h"
+
 #include <charconv>
 #include <cstdint>
 #include <cstring>
@@ -11,6 +13,9 @@ namespace vex::text {
 namespace {
 
 constexpr char hexDigits[] = "0123456789abcdef";
+
+constexpr std::uint64_t highBits = 0x8080808080808080U;
+constexpr std::uint64_t ones = 0x0101010101010101U;
 
 /// Length of the well-formed sequence at the start of `text`, and its code point; 0 when there is
 /// none.
@@ -45,21 +50,20 @@ bool IsControl(char32_t point)
            (point >= 0x2066 && point <= 0x2069);
 }
 
-void AppendCodePoint(std::string& out, char32_t point)
+template <class Text>
+void AppendCodePoint(Text& out, char32_t point)
 {
     char digits[8];
-    const auto end =
+    const char* const end =
         std::to_chars(digits, digits + sizeof digits, static_cast<std::uint32_t>(point), 16).ptr;
     out += "\\u{";
-    out.append(digits, end);
+    out.append(digits, static_cast<std::size_t>(end - digits));
     out += '}';
 }
 
 /// Length of the ASCII at the start of `text`, up to a NUL: most texts are nothing else.
 std::size_t AsciiLength(std::string_view text)
 {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
-    constexpr std::uint64_t ones = 0x0101010101010101U;
     std::size_t length = 0;
     for (std::uint64_t word = 0; text.size() - length >= sizeof word; length += sizeof word) {
         std::memcpy(&word, text.data() + length, sizeof word);
@@ -73,10 +77,35 @@ std::size_t AsciiLength(std::string_view text)
     return length;
 }
 
+/// Whether one of eight characters is not quoted as it is: a control character, a quote, a
+/// backslash, or not ASCII. A difference that borrows from the next character does so only behind
+/// one that is found.
+bool HoldsEscaped(std::uint64_t word)
+{
+    const std::uint64_t quotes = word ^ ('"' * ones);
+    const std::uint64_t backslashes = word ^ ('\\' * ones);
+    const std::uint64_t found = ((word - ' ' * ones) & ~word) | ((quotes - ones) & ~quotes) |
+                                ((backslashes - ones) & ~backslashes) | (word + ones) | word;
+    return (found & highBits) != 0;
+}
+
 /// Length of what stands at the start of `text` and is quoted as it is.
 std::size_t UnescapedLength(std::string_view text)
 {
+    const auto isPlain = [&](std::size_t start) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, text.data() + start, sizeof word);
+        return !HoldsEscaped(word);
+    };
     std::size_t length = 0;
+    while (text.size() - length >= sizeof(std::uint64_t) && isPlain(length)) {
+        length += sizeof(std::uint64_t);
+    }
+    // What is left is less than a word: the last word holds it, and some of what is known.
+    if (length > 0 && text.size() - length < sizeof(std::uint64_t) &&
+        isPlain(text.size() - sizeof(std::uint64_t))) {
+        return text.size();
+    }
     while (length < text.size() && text[length] >= ' ' && text[length] < '\x7F' &&
            text[length] != '"' && text[length] != '\\') {
         ++length;
@@ -100,12 +129,13 @@ bool IsValid(std::string_view text)
     return true;
 }
 
-void AppendQuoted(std::string& out, std::string_view text)
+template <class Text>
+void AppendQuoted(Text& out, std::string_view text)
 {
     out += '"';
     for (;;) {
         const std::size_t unescaped = UnescapedLength(text);
-        out.append(text, 0, unescaped);
+        out.append(text.data(), unescaped);
         text.remove_prefix(unescaped);
         if (text.empty()) {
             break;
@@ -146,16 +176,27 @@ std::string DoubleQuoted(std::string_view text)
     return quoted;
 }
 
-void AppendNumber(std::string& out, double number)
+template <class Text>
+void AppendNumber(Text& out, double number)
 {
     char digits[32];
-    out.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+    const char* const end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+    out.append(digits, static_cast<std::size_t>(end - digits));
 }
 
-void AppendNumber(std::string& out, std::int64_t number)
+template <class Text>
+void AppendNumber(Text& out, std::int64_t number)
 {
     char digits[24];
-    out.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+    const char* const end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+    out.append(digits, static_cast<std::size_t>(end - digits));
 }
+
+template void AppendQuoted(std::string&, std::string_view);
+template void AppendQuoted(TextBuffer&, std::string_view);
+template void AppendNumber(std::string&, double);
+template void AppendNumber(TextBuffer&, double);
+template void AppendNumber(std::string&, std::int64_t);
+template void AppendNumber(TextBuffer&, std::int64_t);
 
 }  // namespace vex::text

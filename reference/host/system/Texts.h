@@ -11,6 +11,8 @@
 
 namespace vex::text {
 
+// What is appended to, a `Text`, is a std::string or a TextBuffer.
+
 /// True for well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF) without a
 /// zero byte.
 VEX_EXPORT bool IsValid(std::string_view text);
@@ -19,14 +21,17 @@ VEX_EXPORT bool IsValid(std::string_view text);
 /// them; line feed, carriage return and tab are written \n, \r and \t; any other control character
 /// (C0, DEL, C1) and the bidirectional and line-separating controls of Unicode are written \u{hex};
 /// a byte that is not valid UTF-8 is written \x and two hex digits.
-VEX_EXPORT void AppendQuoted(std::string& out, std::string_view text);
+template <class Text>
+VEX_EXPORT void AppendQuoted(Text& out, std::string_view text);
 
 /// The text as AppendQuoted writes it.
 VEX_EXPORT std::string DoubleQuoted(std::string_view text);
 
 /// Appends the shortest decimal text that reads back as the same number ("0.1", "1e+30", "nan",
 /// "-inf").
-VEX_EXPORT void AppendNumber(std::string& out, double number);
-VEX_EXPORT void AppendNumber(std::string& out, std::int64_t number);
+template <class Text>
+VEX_EXPORT void AppendNumber(Text& out, double number);
+template <class Text>
+VEX_EXPORT void AppendNumber(Text& out, std::int64_t number);
 
 }  // namespace vex::text

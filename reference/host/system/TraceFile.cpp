@@ -3,8 +3,8 @@
 #include "host/system/TraceFile.h"
 
 #include "host/system/MessageTexts.h"
+#include "host/system/OutputFile.h"
 
-#include <fcntl.h>
 #include <fmt/format.h>
 #include <unistd.h>
 
@@ -74,13 +74,12 @@ std::string TraceEvent(const Call& call, std::int64_t start)
 
 std::unique_ptr<TraceFile> TraceFile::Open(const std::string& path, std::string& error)
 {
-    const int number = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-    if (number < 0) {
+    system::Descriptor file = system::OpenOutputFile(path);
+    if (!file.IsOpen()) {
         error = fmt::format("{}: the trace cannot be written: {}. Name a file that can be made.",
                             system::Quoted(path), system::SystemReason(errno));
         return nullptr;
     }
-    system::Descriptor file(system::Descriptor::AboveStandardStreams(number));
     return std::unique_ptr<TraceFile>(new TraceFile(std::move(file), path));
 }
 
@@ -117,9 +116,10 @@ void TraceFile::Append(const std::string& text)
     std::size_t written = 0;
     while (!_failed && written < text.size()) {
         const ssize_t count = write(_file.Number(), text.data() + written, text.size() - written);
-        if (count >= 0) {
+        if (count > 0) {
             written += static_cast<std::size_t>(count);
-        } else if (errno != EINTR) {
+        } else if (count == 0 || errno != EINTR) {
+            if (count == 0) errno = EIO;  // a file that takes nothing and says no reason
             _failed = true;
             std::fprintf(stderr, "VEX_TRACE: %s: %s. The trace ends here.\n",
                          system::Quoted(_path).c_str(), system::SystemReason(errno).c_str());

@@ -95,4 +95,14 @@ std::optional<Point> BRepShapeModel::CellCentre(int dimension, std::size_t index
     });
 }
 
+void BRepShapeModel::AskEverything() const
+{
+    for (int dimension = 0; dimension <= 3; ++dimension) {
+        for (std::size_t index = 1; index <= CellCount(dimension); ++index) {
+            CellKind(dimension, index);
+            CellCentre(dimension, index);  // what it takes gives the measure too
+        }
+    }
+}
+
 }  // namespace vex::topology

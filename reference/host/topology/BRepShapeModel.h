@@ -23,6 +23,10 @@ public:
     std::optional<double> CellMeasure(int dimension, std::size_t index) const override;
     std::optional<Point> CellCentre(int dimension, std::size_t index) const override;
 
+    // Asks the kernel all that can be asked of each cell, and forgets the answers: what it breaks
+    // down on, it breaks down on here.
+    void AskEverything() const;
+
 private:
     // Null where there is no such cell.
     const TopoDS_Shape* Cell(int dimension, std::size_t index) const;

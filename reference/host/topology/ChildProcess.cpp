@@ -9,7 +9,6 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,6 +18,8 @@
 #include <cstdint>
 #include <cstring>
 #include <exception>
+#include <new>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -53,23 +54,24 @@ void WriteFrame(int pipe, char kind, const void* data, std::size_t size)
     WriteAll(pipe, data, size);
 }
 
-void DetachFromParent()
+void DetachFromParent(pid_t parent)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    const rlimit noCore{0, 0};
-    setrlimit(RLIMIT_CORE, &noCore);
+    if (::getppid() != parent) _exit(1);  // it ended before that
     // The parent's handlers are not for this process: what goes wrong here ends it.
-    for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGINT, SIGTERM, SIGPIPE}) {
+    for (const int signal :
+         {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGINT, SIGTERM, SIGPIPE, SIGXCPU}) {
         ::signal(signal, SIG_DFL);
     }
     const int nothing = ::open("/dev/null", O_RDWR | O_CLOEXEC);
     if (nothing >= 0) ::dup2(nothing, STDOUT_FILENO);
 }
 
-[[noreturn]] void BeChild(int pipe, const ChildWork& work)
+[[noreturn]] void BeChild(int pipe, pid_t parent, const ChildWork& work, const ChildLimits& limits)
 {
-    DetachFromParent();
+    DetachFromParent(parent);
     try {
+        Obey(limits);
         const auto say = [pipe](char kind) {
             return [pipe, kind](const std::string& text) {
                 WriteFrame(pipe, kind, text.data(), text.size());
@@ -77,6 +79,9 @@ void DetachFromParent()
         };
         const std::vector<std::byte> result = work({say('P'), say('W')});
         WriteFrame(pipe, 'R', result.data(), result.size());
+    } catch (const std::bad_alloc&) {
+        constexpr std::string_view text = "it takes more memory than it may have";
+        WriteFrame(pipe, 'E', text.data(), text.size());
     } catch (const std::exception& failure) {
         WriteFrame(pipe, 'E', failure.what(), std::strlen(failure.what()));
     } catch (...) {
@@ -169,16 +174,27 @@ std::string HowItEnded(int status)
     return "status " + std::to_string(WEXITSTATUS(status));
 }
 
+// An end for which nothing was said.
+void Explain(int status, ChildOutcome& outcome)
+{
+    if (WIFSIGNALED(status) && WTERMSIG(status) == SIGXCPU) {
+        outcome.end = ChildOutcome::End::TimedOut;
+    } else {
+        outcome.text = HowItEnded(status);
+    }
+}
+
 }  // namespace
 
-ChildOutcome RunInChild(const ChildWork& work, int seconds)
+ChildOutcome RunInChild(const ChildWork& work, const ChildLimits& limits)
 {
-    const Clock::time_point deadline = Clock::now() + std::chrono::seconds(seconds);
+    const Clock::time_point deadline = Clock::now() + std::chrono::seconds(limits.seconds);
     auto [listening, speaking] = MakePipe();
+    const pid_t parent = ::getpid();
     const pid_t child = ::fork();
     if (child == 0) {
         listening.Close();
-        BeChild(speaking.Number(), work);
+        BeChild(speaking.Number(), parent, work, limits);
     }
     const int failure = errno;
     speaking.Close();
@@ -198,7 +214,7 @@ ChildOutcome RunInChild(const ChildWork& work, int seconds)
     while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
     if (thrown) std::rethrow_exception(thrown);
-    if (outcome.end == ChildOutcome::End::Broken) outcome.text = HowItEnded(status);
+    if (outcome.end == ChildOutcome::End::Broken) Explain(status, outcome);
     return outcome;
 }
 

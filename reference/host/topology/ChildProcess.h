@@ -2,6 +2,8 @@
 // Runs work that may crash or never end in a child process, and brings its result back.
 #pragma once
 
+#include "host/topology/ChildLimits.h"
+
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -38,6 +40,6 @@ struct ChildOutcome
 // The child sees the process as it is now, changes nothing of it and writes nothing to its standard
 // output; it ends with its parent. Other threads do not exist in it, so the work must not wait for
 // one. Throws std::system_error when the system gives no child.
-ChildOutcome RunInChild(const ChildWork& work, int seconds);
+ChildOutcome RunInChild(const ChildWork& work, const ChildLimits& limits);
 
 }  // namespace vex::topology

@@ -15,10 +15,12 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <exception>
 #include <filesystem>
 #include <mutex>
 #include <stdexcept>
+#include <string_view>
 #include <system_error>
 
 extern "C" {
@@ -37,27 +39,44 @@ std::string OwnDirectory()
     return std::filesystem::path(info.dli_fname).parent_path().string();
 }
 
+// What the kernel says in its first line: the others hold addresses. Some failures say nothing, and
+// are told by what they are.
+std::string Said(const Standard_Failure& failure)
+{
+    const std::string_view message = failure.GetMessageString();
+    const std::string_view line = message.substr(0, message.find_first_of("\r\n"));
+    return system::Printable(line.empty() ? failure.DynamicType()->Name() : line);
+}
+
 std::unique_ptr<BRepShapeModel> ModelOf(std::span<const std::byte> bytes)
 {
     try {
         return std::make_unique<BRepShapeModel>(ReadShape(bytes));
     } catch (const Standard_Failure& failure) {
-        throw std::runtime_error(std::string("the geometry kernel refuses the bytes (") +
-                                 failure.GetMessageString() + ")");
+        throw std::runtime_error("the geometry kernel refuses the bytes (" + Said(failure) + ")");
     }
 }
 
-// Bytes that are no shape have crashed the kernel, and made it run for ever: they meet it in a
-// child process first. Throws what the kernel has against them.
+// What the kernel may take for that many bytes. A sound shape takes some microseconds a byte and
+// some dozen bytes of memory for each; the clock allows for a busy machine.
+ChildLimits LimitsFor(std::size_t bytes)
+{
+    constexpr std::size_t bytesASecond = 50'000;
+    const int seconds = 5 + static_cast<int>(std::min<std::size_t>(bytes / bytesASecond, 3600));
+    return {seconds * 12, seconds, (std::size_t{1} << 30U) + bytes * 100};
+}
+
+// Bytes that are no shape have crashed the kernel, and made it run for ever, when it read them or
+// when it was asked for what it had read: they meet it in a child process first. Throws what the
+// kernel has against them.
 void TryOut(std::span<const std::byte> bytes)
 {
-    constexpr int seconds = 60;
     const ChildOutcome outcome = RunInChild(
         [&](const ChildReport&) {
-            ModelOf(bytes);
+            ModelOf(bytes)->AskEverything();
             return std::vector<std::byte>();
         },
-        seconds);
+        LimitsFor(bytes.size()));
     switch (outcome.end) {
         case ChildOutcome::End::Done:
             return;

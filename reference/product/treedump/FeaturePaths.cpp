@@ -2,6 +2,7 @@
 // Paths of features: segments from the base down, or the feature's number in its document.
 #include "product/treedump/FeaturePaths.h"
 
+#include "host/system/TextBuffer.h"
 #include "host/system/Texts.h"
 
 #include <string_view>
@@ -10,7 +11,8 @@ namespace hlx {
 
 using vex::Feature;
 
-void FeaturePaths::Append(std::string& out, const Feature& target)
+template <class Text>
+void FeaturePaths::Append(Text& out, const Feature& target)
 {
     const std::size_t start = out.size();
     if (AppendSegments(out, target)) {
@@ -22,7 +24,8 @@ void FeaturePaths::Append(std::string& out, const Feature& target)
 }
 
 // False when the path gets too long; `out` then holds a part of it.
-bool FeaturePaths::AppendSegments(std::string& out, const Feature& target)
+template <class Text>
+bool FeaturePaths::AppendSegments(Text& out, const Feature& target)
 {
     const std::size_t start = out.size();
     _chain.clear();
@@ -98,5 +101,8 @@ std::uint64_t FeaturePaths::NumberOf(const Feature& feature)
     }
     return _numbers[&feature];
 }
+
+template VEX_EXPORT void FeaturePaths::Append(std::string&, const Feature&);
+template VEX_EXPORT void FeaturePaths::Append(vex::text::TextBuffer&, const Feature&);
 
 }  // namespace hlx

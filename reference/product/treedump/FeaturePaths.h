@@ -21,7 +21,8 @@ public:
     explicit FeaturePaths(const vex::Feature& base) : _base(&base) {}
 
     /// Appends the path of a feature that is in a tree.
-    void Append(std::string& out, const vex::Feature& target);
+    template <class Text>
+    void Append(Text& out, const vex::Feature& target);
 
     /// A path longer than this is given as a number instead, so that neither long aliases nor deep
     /// trees make the text grow with the square of what it describes.
@@ -35,7 +36,8 @@ private:
         bool aliasIsUnique = false;
     };
 
-    bool AppendSegments(std::string& out, const vex::Feature& target);
+    template <class Text>
+    bool AppendSegments(Text& out, const vex::Feature& target);
     const Place& PlaceOf(const vex::Feature& feature);
     std::uint64_t NumberOf(const vex::Feature& feature);
 

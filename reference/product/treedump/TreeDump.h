@@ -10,6 +10,6 @@ namespace hlx {
 
 /// Appends the lines of `root` and of everything below it, indented by `depth` levels (below 0
 /// counts as 0). `root` is in a tree.
-VEX_EXPORT void AppendFeatureTree(std::string& out, vex::Feature& root, int depth);
+VEX_EXPORT void AppendFeatureTree(std::string& text, vex::Feature& root, int depth);
 
 }  // namespace hlx

@@ -4,6 +4,7 @@
 
 #include "host/feature/Document.h"
 #include "host/store/LinkPath.h"
+#include "host/system/TextBuffer.h"
 #include "host/system/Texts.h"
 
 #include <string_view>
@@ -20,18 +21,21 @@ const vex::Feature* TargetOf(const vex::Reference& reference, const vex::Feature
 
 }  // namespace
 
-void AppendLink(std::string& out, const vex::DocumentLink& link, const vex::Feature& owner)
+template <class Text>
+void AppendLink(Text& out, const vex::DocumentLink& link, const vex::Feature& owner)
 {
     const std::string& document = owner.Tree()->Owner().Path();
-    std::string relative = vex::store::MakeRelative(document, link.path);
+    const std::string& target = link.path;
+    std::string relative = vex::store::MakeRelative(document, target);
     // A way up and down again would tell where on this machine the documents stand.
     if (relative.empty() || relative.starts_with("../")) {
-        relative = link.path.substr(link.path.rfind('/') + 1);
+        relative = target.substr(target.rfind('/') + 1);
     }
     vex::text::AppendQuoted(out, relative);
 }
 
-void AppendScalar(std::string& out, const vex::Value& value, const vex::Feature& owner,
+template <class Text>
+void AppendScalar(Text& out, const vex::Value& value, const vex::Feature& owner,
                   FeaturePaths& paths)
 {
     switch (vex::KindOf(value)) {
@@ -62,5 +66,10 @@ void AppendScalar(std::string& out, const vex::Value& value, const vex::Feature&
             break;
     }
 }
+
+template void AppendLink(std::string&, const vex::DocumentLink&, const vex::Feature&);
+template void AppendScalar(std::string&, const vex::Value&, const vex::Feature&, FeaturePaths&);
+template void AppendScalar(vex::text::TextBuffer&, const vex::Value&, const vex::Feature&,
+                           FeaturePaths&);
 
 }  // namespace hlx

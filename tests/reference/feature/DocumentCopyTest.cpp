@@ -152,6 +152,17 @@ TEST_F(DocumentCopyTest, AFileThatIsNotTheOneReadIsNotCopied)
     }
 }
 
+// This process's memory: a file that the system says is empty and that cannot be read at its begin.
+TEST_F(DocumentCopyTest, AFileThatCannotBeReadIsNotNeeded)
+{
+    const system::FileSummary empty{0, document->Stored()->summary.digest};
+    document->SetStored("/proc/self/mem", empty, false);
+    EXPECT_GT(Writes(copy), 10);
+    EXPECT_EQ(ReadFile(copy), ReadFile(original));
+    const std::filesystem::directory_iterator files(std::filesystem::path(copy).parent_path());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 2);
+}
+
 TEST_F(DocumentCopyTest, LinksAreWrittenAnewForAnotherFolder)
 {
     First().Set("File", Boxed<DocumentLink>(DocumentLink{folder.File("parts/p.VEXPart")}));

@@ -8,7 +8,6 @@
 
 #include <gmock/gmock.h>
 
-#include <filesystem>
 #include <limits>
 
 namespace {
@@ -116,20 +115,6 @@ TEST_F(DocumentStorageTest, WhatIsDeletedOrMovedAfterReadingIsStoredSo)
     const DocumentHolder last = Load(path);
     EXPECT_EQ(last->Tree().Roots().front()->Id(), three.Id());
     EXPECT_NE(last->Tree().Find(two.Id()), nullptr);
-}
-
-TEST_F(DocumentStorageTest, LinksMoveWithTheirDocuments)
-{
-    Feature& one = Add(root);
-    one.Set("File", Boxed<DocumentLink>(DocumentLink{folder.File("parts/b.VEXPart")}));
-    std::filesystem::create_directories(folder.File("first"));
-    ASSERT_TRUE(SaveDocument(*document, folder.File("first/a.VEXPart"), error)) << error;
-    EXPECT_EQ(one.GetAs<DocumentLink>("File").path, folder.File("parts/b.VEXPart"));
-    std::filesystem::create_directories(folder.File("deep"));
-    std::filesystem::rename(folder.File("first"), folder.File("deep/first"));
-    const DocumentHolder read = Load(folder.File("deep/first/a.VEXPart"));
-    EXPECT_EQ(read->Tree().Find(one.Id())->GetAs<DocumentLink>("File").path,
-              folder.File("deep/parts/b.VEXPart"));
 }
 
 TEST_F(DocumentStorageTest, GeometryIsReadWhenAskedForFromTheFileThatWasOpened)

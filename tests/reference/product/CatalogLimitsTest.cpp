@@ -49,6 +49,29 @@ TEST(CatalogLimits, NestingOfDotsInNestedValues)
               std::string::npos);
 }
 
+/// Values within values, `levels` deep, each below a key of so many dots that the parser still
+/// takes it, and all closed.
+std::string ClosedNest(int levels, int dots)
+{
+    const std::string key = Repeated("a.", dots) + "a = ";
+    return "type = [\n" + Repeated("{ " + key + "[\n", levels) + "1\n" + Repeated("] }\n", levels) +
+           "]\n";
+}
+
+/// What is read must be let go of too, and that goes by recursion from table to table.
+TEST(CatalogLimits, ClosedNestsOfDotsAndValues)
+{
+    for (const int dots : {1, 128, 256}) {
+        for (const int levels : {8, 20, 120, 1000}) {
+            EXPECT_NE(Refusal(ClosedNest(levels, dots)).find(": no TOML: "), std::string::npos)
+                << levels << " levels, " << dots << " dots";
+        }
+        // As deep as the parser goes: read, let go of, and refused for what it holds.
+        EXPECT_EQ(Refusal(ClosedNest(7, dots)),
+                  "catalogue \"c\", line 2, type 1: no \"name\"; add it");
+    }
+}
+
 TEST(CatalogLimits, ALineMayHaveAListOfManyNumbers)
 {
     std::vector<vex::LateTypeDefinition> types;

@@ -3,9 +3,13 @@
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
-#include <sys/wait.h>
 
 #include <cstdlib>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -116,6 +120,29 @@ TEST_F(ProbeEnvironmentTest, AWrongSettingEndsTheProgramBeforeItBegins)
     EXPECT_EQ(2, Run("VEX_COUNTS=/nowhere/counts.txt"));
     EXPECT_THAT(Err(),
                 HasSubstr("VEX_COUNTS: '/nowhere/counts.txt': the counts cannot be written"));
+}
+
+TEST_F(ProbeEnvironmentTest, APipeThatNobodyReadsIsNotWaitedFor)
+{
+    ASSERT_EQ(mkfifo(File("pipe").c_str(), 0600), 0);
+    for (const std::string variable : {"VEX_TRACE", "VEX_COUNTS"}) {
+        EXPECT_EQ(2, Run(variable + "='" + File("pipe") + "'"));
+        EXPECT_THAT(Err(), testing::StartsWith(variable + ": '" + File("pipe") + "': "));
+        EXPECT_THAT(Err(), HasSubstr("cannot be written: No such device or address"));
+    }
+}
+
+TEST_F(ProbeEnvironmentTest, APipeThatIsReadGetsTheTrace)
+{
+    ASSERT_EQ(mkfifo(File("pipe").c_str(), 0600), 0);
+    const int reader = open(File("pipe").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    ASSERT_GE(reader, 0);
+    EXPECT_EQ(3, Run("VEX_TRACE='" + File("pipe") + "'"));
+    std::string trace(4096, '\0');
+    const ssize_t size = read(reader, trace.data(), trace.size());
+    close(reader);
+    EXPECT_GT(size, 0);
+    EXPECT_THAT(trace, HasSubstr("VEXMakePath(\"last\", \"call\", &) -> S_OK"));
 }
 
 TEST_F(ProbeEnvironmentTest, AFullDiskEndsTheTraceNotTheProgram)

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstring>
 #include <map>
 
 namespace hlxtest {
@@ -175,6 +176,22 @@ TEST_F(Shapes, TruncatedBytesAreNoShape)
         EXPECT_EQ(kernel->LoadShape(shape.first(length), error), nullptr) << length;
         EXPECT_NE(error, "");
     }
+}
+
+// Such a number where a curve has one of its own is read without a word; asked for the cell's
+// length, the kernel needs more stack than there is.
+TEST_F(Shapes, BytesThatTheKernelReadsAndThenBreaksDownOverAreNoShape)
+{
+    const vex::ImportedAssembly assembly = Import(kStepData + "loose_parts.step");
+    std::vector<std::byte> shape = assembly.parts.at(1).shape;
+    const double number = -1e18;
+    constexpr std::size_t place = 212;
+    ASSERT_GT(shape.size(), place + sizeof number);
+    std::memcpy(shape.data() + place, &number, sizeof number);
+    std::string error;
+    EXPECT_EQ(kernel->LoadShape(shape, error), nullptr);
+    EXPECT_EQ(error,
+              "the geometry kernel breaks down over the bytes (signal 11): import the part again");
 }
 
 }  // namespace

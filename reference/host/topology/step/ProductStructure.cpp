@@ -116,13 +116,7 @@ private:
     // where that harms nothing.
     static void ProveReadable(const ImportedPart& part)
     {
-        const BRepShapeModel model(ReadShape(part.shape));
-        for (int dimension = 0; dimension <= 3; ++dimension) {
-            for (std::size_t index = 1; index <= model.CellCount(dimension); ++index) {
-                model.CellKind(dimension, index);
-                model.CellCentre(dimension, index);
-            }
-        }
+        BRepShapeModel(ReadShape(part.shape)).AskEverything();
     }
 
     Handle(XCAFDoc_ShapeTool) shapes_;

@@ -62,7 +62,7 @@ bool ReadStep(const std::string& path, ImportedAssembly& out, std::string& error
     }
     const ChildOutcome outcome = RunInChild(
         [&path](const ChildReport& report) { return WriteAssembly(TranslateStep(path, report)); },
-        *seconds);
+        {.seconds = *seconds});
     for (const std::string& warning : outcome.warnings) {
         std::cerr << place + system::Printable(warning) + "\n";
     }

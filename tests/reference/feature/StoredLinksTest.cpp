@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+// Links to other documents, stored and read back.
+#include "TestDocument.h"
+#include "host/feature/DocumentStorage.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <set>
+
+namespace {
+
+using namespace vex;
+using featuretest::Add;
+
+class StoredLinks : public testing::Test
+{
+protected:
+    DocumentHolder Load(const std::string& from)
+    {
+        DocumentHolder read = LoadDocument(from, error);
+        EXPECT_NE(read, nullptr) << error;
+        return read;
+    }
+
+    hlxtest::TemporaryFolder folder;
+    std::string path = folder.File("a.VEXPart");
+    std::string error;
+    DocumentHolder document = featuretest::MakeDocument();
+    Feature& root = *document->Tree().Roots().front();
+};
+
+TEST_F(StoredLinks, MoveWithTheirDocuments)
+{
+    Feature& one = Add(root);
+    one.Set("File", Boxed<DocumentLink>(DocumentLink{folder.File("parts/b.VEXPart")}));
+    std::filesystem::create_directories(folder.File("first"));
+    ASSERT_TRUE(SaveDocument(*document, folder.File("first/a.VEXPart"), error)) << error;
+    EXPECT_EQ(one.GetAs<DocumentLink>("File").path, folder.File("parts/b.VEXPart"));
+    std::filesystem::create_directories(folder.File("deep"));
+    std::filesystem::rename(folder.File("first"), folder.File("deep/first"));
+    const DocumentHolder read = Load(folder.File("deep/first/a.VEXPart"));
+    EXPECT_EQ(read->Tree().Find(one.Id())->GetAs<DocumentLink>("File").path,
+              folder.File("deep/parts/b.VEXPart"));
+}
+
+// A long path that many features link to is in a small file once, and so in memory.
+TEST_F(StoredLinks, ToOneDocumentShareItsPath)
+{
+    const DocumentLink link{folder.File(std::string(4000, 'd') + "/b.VEXPart")};
+    for (int i = 0; i < 3; ++i) {
+        Add(root).Set("File", Boxed<DocumentLink>(link));
+    }
+    ASSERT_TRUE(SaveDocument(*document, path, error)) << error;
+    const DocumentHolder read = Load(path);
+    std::set<const std::string*> paths;
+    for (const Feature* const feature : read->Tree().Roots().front()->Children()) {
+        const std::string& linked = feature->GetAs<DocumentLink>("File").path;
+        EXPECT_EQ(linked, link.path);
+        paths.insert(&linked);
+    }
+    EXPECT_EQ(paths.size(), 1U);
+}
+
+}  // namespace
