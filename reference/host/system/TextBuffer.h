@@ -25,6 +25,7 @@ public:
         : _text(std::move(begun)), _size(_text.size())
     {
         _text.reserve(_size + expected);
+        UseLargePages();
     }
 
     std::size_t size() const { return _size; }
@@ -95,6 +96,10 @@ private:
             _text.resize(wanted);
         }
     }
+
+    /// A long text is touched for the first time from end to end: in few large pages rather than in
+    /// tens of thousands of small ones, where the system has any.
+    void UseLargePages();
 
     std::string _text;  ///< the first _size characters of it
     std::size_t _size;
