@@ -8,13 +8,12 @@ namespace vex::text {
 
 void TextBuffer::UseLargePages()
 {
-    constexpr std::uintptr_t page = std::uintptr_t{2} << 20U;
-    const auto address = reinterpret_cast<std::uintptr_t>(_text.data());
-    const std::uintptr_t first = (address + page - 1) / page * page;
-    const std::uintptr_t end = (address + _text.capacity()) / page * page;
-    if (end > first) {
+    constexpr std::size_t page = std::size_t{2} << 20U;
+    const std::size_t before = page - reinterpret_cast<std::uintptr_t>(_text.data()) % page;
+    if (_text.capacity() > before + page) {
+        const std::size_t whole = (_text.capacity() - before) / page * page;
         // Advice: without large pages everything goes on as before.
-        ::madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+        ::madvise(_text.data() + before, whole, MADV_HUGEPAGE);
     }
 }
 
