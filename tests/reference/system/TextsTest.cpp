@@ -87,7 +87,8 @@ TEST(TextsTest, NothingIsQuotedAsAnEmptyText)
 
 TEST(TextBufferTest, HoldsWhatWasAddedWhateverIsExpected)
 {
-    for (const std::size_t expected : {0, 1, 5'000, 1'000'000}) {
+    for (const std::size_t expected :
+         {std::size_t{0}, std::size_t{1}, std::size_t{5'000}, std::size_t{1'000'000}}) {
         TextBuffer buffer("", expected);
         std::string all;
         for (std::size_t size = 0; size < 300; ++size) {
