@@ -2,19 +2,15 @@
 // Work in a child process that may take ten seconds of processor time and four gibibytes.
 #pragma once
 
+#include "support/Sanitized.h"
+
 #include <functional>
 #include <ostream>
 #include <string>
 
 namespace damagetest {
 
-#if defined(__SANITIZE_ADDRESS__)
-inline constexpr bool kSanitized = true;
-#elif defined(__has_feature)
-inline constexpr bool kSanitized = __has_feature(address_sanitizer);
-#else
-inline constexpr bool kSanitized = false;
-#endif
+using hlxtest::kSanitized;
 
 /// A sanitized program does the same work several times more slowly.
 inline constexpr int kMostSeconds = kSanitized ? 60 : 10;

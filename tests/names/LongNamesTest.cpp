@@ -5,6 +5,7 @@
 #include "names/DumpGrammar.h"
 #include "names/HostileNames.h"
 #include "names/NamedAnalysis.h"
+#include "support/Sanitized.h"
 
 #include <gtest/gtest.h>
 
@@ -18,11 +19,7 @@ constexpr std::size_t kLong = std::size_t{1} << 20U;
 
 /// Seconds of computing; far more than what is needed, and far less than what grows with a square
 /// takes.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr double kPatience = 20.0;
-#else
-constexpr double kPatience = 2.0;
-#endif
+constexpr double kPatience = hlxtest::kSanitized ? 20.0 : 2.0;
 
 constexpr const char* kBearer = "HLXTabularAmplitudeLT";
 
