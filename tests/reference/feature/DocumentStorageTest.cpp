@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Documents to files and back; files that do not fit this process's catalogues.
-#include "TestDocument.h"
-#include "host/feature/DocumentStorage.h"
+#include "StorageTest.h"
 #include "host/store/AttributePacker.h"
 #include "host/store/DocumentWriter.h"
-#include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 
@@ -18,22 +16,8 @@ using featuretest::MakeDocument;
 using featuretest::Outline;
 using testing::HasSubstr;
 
-class DocumentStorageTest : public testing::Test
-{
-protected:
-    DocumentHolder Load(const std::string& from)
-    {
-        DocumentHolder read = LoadDocument(from, error);
-        EXPECT_NE(read, nullptr) << error;
-        return read;
-    }
-
-    hlxtest::TemporaryFolder folder;
-    std::string path = folder.File("a.VEXPart");
-    std::string error;
-    DocumentHolder document = MakeDocument();
-    Feature& root = *document->Tree().Roots().front();
-};
+class DocumentStorageTest : public featuretest::StorageTest
+{};
 
 std::vector<std::byte> Bytes(std::string_view text)
 {

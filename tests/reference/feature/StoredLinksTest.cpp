@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Links to other documents, stored and read back.
-#include "TestDocument.h"
-#include "host/feature/DocumentStorage.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
+#include "StorageTest.h"
 
 #include <filesystem>
 #include <set>
@@ -14,22 +10,8 @@ namespace {
 using namespace vex;
 using featuretest::Add;
 
-class StoredLinks : public testing::Test
-{
-protected:
-    DocumentHolder Load(const std::string& from)
-    {
-        DocumentHolder read = LoadDocument(from, error);
-        EXPECT_NE(read, nullptr) << error;
-        return read;
-    }
-
-    hlxtest::TemporaryFolder folder;
-    std::string path = folder.File("a.VEXPart");
-    std::string error;
-    DocumentHolder document = featuretest::MakeDocument();
-    Feature& root = *document->Tree().Roots().front();
-};
+class StoredLinks : public featuretest::StorageTest
+{};
 
 TEST_F(StoredLinks, MoveWithTheirDocuments)
 {

@@ -7,6 +7,7 @@
 #include "host/store/DocumentWriter.h"
 #include "host/system/FileOperations.h"
 #include "support/ResealedDocument.h"
+#include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,7 +15,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <optional>
 #include <string>
@@ -154,11 +154,7 @@ inline std::optional<Content> Load(const std::string& path, std::string& error,
     return content;
 }
 
-inline std::string ReadFile(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
+using hlxtest::ReadFile;
 
 inline void WriteFile(const std::string& path, const std::string& bytes)
 {

@@ -4,6 +4,7 @@
 #include "host/topology/ChildProcess.h"
 
 #include "support/Capture.h"
+#include "support/Sanitized.h"
 
 #include <gmock/gmock.h>
 
@@ -24,14 +25,7 @@ using vex::topology::ChildWork;
 using vex::topology::RunInChild;
 using End = ChildOutcome::End;
 using Bytes = std::vector<std::byte>;
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kSanitized = true;
-#elif defined(__has_feature)
-constexpr bool kSanitized = __has_feature(address_sanitizer);
-#else
-constexpr bool kSanitized = false;
-#endif
+using hlxtest::kSanitized;
 
 /// Long enough for anything but what never ends.
 constexpr ChildLimits kAMinute{.seconds = 60};
