@@ -13,11 +13,11 @@ namespace {
 
 using namespace bench;
 
-/// The limits are for documents of this many features and more: connecting, the schema and the
-/// search for abandoned files cost the same for any.
+/// The limits are for documents of this many features and more: connecting, reading the schema and
+/// the search for abandoned files cost the same for any.
 constexpr std::int64_t smallestLimited = 10'000;
-/// On the disk for these: whatever is in two small files, both sides wait for the disk as long.
-constexpr std::int64_t smallestLimitedOnDisk = 100'000;
+/// Saving to the disk for these: of what a small file takes, most is waiting for the disk.
+constexpr std::int64_t smallestSavedToDisk = 100'000;
 
 constexpr double mostOpen = 0.7;
 constexpr double mostSave = 0.3;
@@ -107,7 +107,7 @@ void MeasureSave(benchmark::State& state, Place place, double limit)
 
 void Save(benchmark::State& state)
 {
-    MeasureSave(state, Place::Disk, LimitFrom(state, smallestLimitedOnDisk, mostSave));
+    MeasureSave(state, Place::Disk, LimitFrom(state, smallestSavedToDisk, mostSave));
 }
 
 void SaveInMemory(benchmark::State& state)
@@ -136,7 +136,7 @@ void MeasureCopy(benchmark::State& state, Place place, double limit)
 
 void Copy(benchmark::State& state)
 {
-    MeasureCopy(state, Place::Disk, LimitFrom(state, smallestLimitedOnDisk, mostCopy));
+    MeasureCopy(state, Place::Disk, LimitFrom(state, smallestLimited, mostCopy));
 }
 
 void CopyInMemory(benchmark::State& state)

@@ -17,7 +17,7 @@ using namespace damagetest;
 class DamagedBytes : public testing::Test
 {
 protected:
-    static constexpr std::size_t kPage = 16384;
+    static constexpr std::size_t kPage = 4096;
 
     static void SetUpTestSuite() { _document = new DamagedDocument; }
     static void TearDownTestSuite()

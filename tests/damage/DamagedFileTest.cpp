@@ -134,7 +134,7 @@ TEST_F(DamagedFile, HeadersThatLie)
     const std::tuple<const char*, std::size_t, std::string, std::string> patches[] = {
         {"write-ahead log", 18, "\2\2", strange},
         {"UTF-16", 56, std::string("\0\0\0\2", 4), strange},
-        {"4294967295 pages", 28, "\xFF\xFF\xFF\xFF", sizes(size, "70368744161280")},
+        {"4294967295 pages", 28, "\xFF\xFF\xFF\xFF", sizes(size, "17592186040320")},
         {"no pages", 28, std::string(4, '\0'), sizes(size, "0")}};
     for (const auto& [what, place, bytes, reason] : patches) {
         const std::string patched = Patched(place, bytes);

@@ -4,84 +4,21 @@
 #include "DocumentContents.h"
 #include "HLXProductUtilities.h"
 #include "LimitedChild.h"
+#include "LinkedProduct.h"
 #include "VEXAnalysisModel.h"
-#include "VEXDocumentServices.h"
-#include "VEXProductStructure.h"
-#include "host/feature/DocumentSession.h"
-#include "host/product/ProductStructure.h"
 #include "support/AnalysisDocuments.h"
-#include "support/Capture.h"
 #include "support/ResealedDocument.h"
-#include "support/TemporaryFolder.h"
-
-#include <gmock/gmock.h>
 
 #include <filesystem>
-#include <memory>
 
 namespace {
 
 using namespace damagetest;
-using testing::HasSubstr;
 namespace fs = std::filesystem;
 
-VEXDocument* Open(const std::string& path)
-{
-    VEXDocument* document = nullptr;
-    EXPECT_EQ(VEXDocumentServices::OpenDocument(VEXUnicodeString(path), document, 0), S_OK);
-    return document;
-}
-
-/// A product that uses one part.
-class DamagedLinks : public testing::Test
+class DamagedLinks : public LinkedProduct
 {
 protected:
-    DamagedLinks()
-    {
-        Store("VEXPart", part, [](vex::Feature& root) { root.SetAlias("the plate"); });
-        Store("VEXProduct", top, [&](vex::Feature& root) { Use(root, part); });
-        sound = hlxtest::ReadFile(part);
-    }
-    ~DamagedLinks() override
-    {
-        while (!Session().Documents().empty()) {
-            std::string error;
-            Session().Remove(*Session().Documents().front(), true, error);
-        }
-    }
-
-    static vex::DocumentSession& Session() { return vex::DocumentSession::Instance(); }
-
-    static void Store(const char* type, const std::string& path,
-                      const std::function<void(vex::Feature& root)>& fill)
-    {
-        VEXDocument* document = nullptr;
-        ASSERT_EQ(VEXDocumentServices::New(type, document), S_OK);
-        fill(*vex::RootObject(*vex::Document::From(document)));
-        ASSERT_EQ(VEXDocumentServices::SaveAs(*document, VEXUnicodeString(path), "", 1), S_OK);
-        ASSERT_EQ(VEXDocumentServices::Remove(*document, 1), S_OK);
-    }
-
-    static void Use(vex::Feature& root, const std::string& path)
-    {
-        vex::Feature& node = root.Tree()->Create(root.Kind(), &root);
-        ASSERT_EQ(node.SetAlias("use"), S_OK);
-        ASSERT_EQ(node.Set("Document", vex::Boxed<vex::DocumentLink>(vex::DocumentLink{path})),
-                  S_OK);
-    }
-
-    /// All that stands below the root of the open product; what it writes goes to `err`.
-    static HRESULT Walk(VEXDocument* product, int& size, std::string& err)
-    {
-        const VEXIDescendants_var root =
-            VEXShare<VEXBaseUnknown>(vex::RootObject(*vex::Document::From(product)));
-        VEXListValVEXISpecObject_var below;
-        HRESULT result = S_OK;
-        err = hlxtest::Capture([&] { result = root->GetAllChildren("VEXISpecObject", below); }).err;
-        size = below.Size();
-        return result;
-    }
-
     /// Lets a child open the product while `spoil` has been at its part; then the part is mended.
     void ExpectLinkRefused(const char* what, const std::string& reason,
                            const std::function<void()>& spoil)
@@ -118,11 +55,6 @@ protected:
         EXPECT_EQ(err, "");
         EXPECT_EQ(VEXDocumentServices::Remove(*again, 0), S_OK);
     }
-
-    hlxtest::TemporaryFolder folder;
-    std::string part = folder.File("plate.VEXPart");
-    std::string top = folder.File("top.VEXProduct");
-    std::string sound;
 };
 
 TEST_F(DamagedLinks, APartThatCannotBeUsedIsRefusedByNameAndItsLinkIsKept)
@@ -154,10 +86,31 @@ TEST_F(DamagedLinks, APartThatCannotBeUsedIsRefusedByNameAndItsLinkIsKept)
                       "it was written by a newer program (data version 9, this program reads up to "
                       "1). Open it with the newer program.",
                       changed("PRAGMA user_version = 9"));
-    ExpectLinkRefused("an analysis",
-                      "it is an analysis document, which cannot be used in a product. Put the "
-                      "product or part back in its place.",
+    const auto ofType = [](const std::string& type) {
+        return "it is a document of type " + type +
+               ", and the link to it says VEXPart. Put that one back in its place, or link to "
+               "this one anew.";
+    };
+    ExpectLinkRefused("a product", ofType("VEXProduct"), [&] {
+        const std::string product = folder.File("other.VEXProduct");
+        Store("VEXProduct", product, [](vex::Feature&) {});
+        fs::rename(product, part);
+    });
+    ExpectLinkRefused("an analysis", ofType("VEXAnalysis"),
                       [&] { hlxtest::StoreAnalysisDocument(part, 1); });
+}
+
+TEST_F(DamagedLinks, AnAnalysisIsNothingToUse)
+{
+    const std::string analysis = folder.File("a.VEXAnalysis");
+    hlxtest::StoreAnalysisDocument(analysis, 1);
+    Store("VEXProduct", top, [&](vex::Feature& root) { Use(root, analysis); });
+    int size = 0;
+    std::string err;
+    EXPECT_EQ(Walk(Open(top), size, err), E_FAIL);
+    EXPECT_EQ(err, "vex: '" + analysis +
+                       "': it is an analysis document, which cannot be used in a product. Put the "
+                       "product or part back in its place.\n");
 }
 
 TEST_F(DamagedLinks, AnAnalysisTellsWhichOfItsLinksCannotBeOpened)
@@ -199,55 +152,6 @@ TEST_F(DamagedLinks, AnAnalysisTellsWhichOfItsLinksCannotBeOpened)
     };
     ExpectLimited(openAndSave);
     ExpectLimited(openAndSave);
-}
-
-TEST_F(DamagedLinks, DocumentsThatUseEachOtherOpenWalkAndClose)
-{
-    ExpectLimited([&] {
-        const std::string sub = folder.File("sub.VEXProduct");
-        Store("VEXProduct", sub, [&](vex::Feature& root) {
-            Use(root, top);
-            Use(root, sub);
-            Use(root, part);
-        });
-        Store("VEXProduct", top, [&](vex::Feature& root) {
-            Use(root, sub);
-            Use(root, top);
-        });
-        VEXDocument* const product = Open(top);
-        int size = 0;
-        std::string err;
-        EXPECT_EQ(Walk(product, size, err), S_OK) << err;
-        EXPECT_EQ(size, 6) << "two uses in top, three in sub, and the part";
-        EXPECT_EQ(Session().Documents().size(), 3U);
-        EXPECT_EQ(VEXDocumentServices::Remove(*product, 0), S_OK);
-        EXPECT_TRUE(Session().Documents().empty());
-    });
-}
-
-TEST_F(DamagedLinks, ReferencesInACircleAreNoDamage)
-{
-    const std::string path = folder.File("circle.VEXAnalysis");
-    std::string before;
-    {
-        hlxtest::AnalysisDocument analysis(0);
-        vex::Document& document = *vex::Document::From(analysis.Get());
-        vex::Feature& root = *document.SpecContainer();
-        const vex::LateType& type = vex::LateTypes::Instance().Require("HLXHacAnaStepSolLT");
-        vex::Feature& one = document.Tree().Create(type, &root);
-        vex::Feature& two = document.Tree().Create(type, &one);
-        ASSERT_EQ(one.Set("AnalysisStep", vex::Reference{two.Id()}), S_OK);
-        ASSERT_EQ(two.Set("AnalysisStep", vex::Reference{one.Id()}), S_OK);
-        vex::Feature& self = document.Tree().Create(type, &two);
-        ASSERT_EQ(self.Set("AnalysisStep", vex::Reference{self.Id()}), S_OK);
-        analysis.SaveAs(path);
-        before = FeaturesOf(document);
-    }
-    ExpectLimited([&] {
-        VEXDocument* const document = Open(path);
-        ASSERT_NE(document, nullptr);
-        EXPECT_EQ(FeaturesOf(*vex::Document::From(document)), before);
-    });
 }
 
 }  // namespace

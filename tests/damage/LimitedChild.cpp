@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LimitedChild.h"
 
-#include "support/TemporaryFolder.h"
+#include "support/ChildProcess.h"
 
 #include <gtest/gtest.h>
 
@@ -88,15 +88,9 @@ ChildEnd RunLimited(const std::function<int()>& work)
 {
     const int err = memfd_create("err", MFD_CLOEXEC);
     EXPECT_GE(err, 0) << std::strerror(errno);
-    std::fflush(nullptr);
-    const pid_t child = fork();
-    if (child == 0) {
-        RunAsChild(work, err);
-    }
+    const pid_t child = hlxtest::StartChild([&] { RunAsChild(work, err); });
     ChildEnd end;
-    if (child < 0) {
-        ADD_FAILURE() << "no child: " << std::strerror(errno);
-    } else {
+    if (child > 0) {
         WaitFor(child);
         int status = 0;
         rusage usage{};

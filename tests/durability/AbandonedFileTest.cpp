@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // What a process that died left beside a file goes with the next save of that file; all else stays.
-#include "durability/ChildProcess.h"
 #include "durability/Interception.h"
 #include "host/system/AtomicFile.h"
 #include "host/system/UnfinishedFile.h"
+#include "support/ChildProcess.h"
 
 #include <csignal>
 
@@ -45,7 +45,7 @@ protected:
     // A process begins to replace the file and dies.
     void Abandon(const std::string& name)
     {
-        EXPECT_EQ(InChild([&] {
+        EXPECT_EQ(hlxtest::InChild([&] {
                       AtomicFile file;
                       EXPECT_TRUE(file.Begin(In(name), error)) << error;
                       ::raise(SIGKILL);
@@ -114,7 +114,7 @@ TEST_F(AbandonedFile, IsFoundBesideTheFileThatALinkLeadsTo)
 
 TEST_F(AbandonedFile, IsFoundInTheCurrentFolderToo)
 {
-    EXPECT_EQ(InChild([&] {
+    EXPECT_EQ(hlxtest::InChild([&] {
                   ASSERT_EQ(::chdir(folder.c_str()), 0);
                   Abandon("a");
                   EXPECT_EQ(FileCount(), 1U);
@@ -131,7 +131,7 @@ TEST_F(AbandonedFile, IsNotWhatALivingProcessWrites)
     Replace("a", "old");
     AtomicFile first;
     ASSERT_TRUE(first.Begin(In("a"), error)) << error;
-    EXPECT_EQ(InChild([&] { Replace("a", "by the other process"); }), 0);
+    EXPECT_EQ(hlxtest::InChild([&] { Replace("a", "by the other process"); }), 0);
     EXPECT_EQ(FileCount(), 2U);
     AtomicFile second;  // nor what this process writes elsewhere
     ASSERT_TRUE(second.Begin(In("a"), error)) << error;
@@ -149,7 +149,7 @@ TEST_F(AbandonedFile, IsNotWhatIsAboutToGetItsName)
     const vex::store::test::OperationsGuard guard;
     const vex::system::FileOperations real = vex::system::SystemFileOperations();
     CurrentFileOperations().rename = [&](const std::string& from, const std::string& to) {
-        EXPECT_EQ(InChild([&] {
+        EXPECT_EQ(hlxtest::InChild([&] {
                       AtomicFile other;
                       EXPECT_TRUE(other.Begin(In("a"), error)) << error;
                   }),
@@ -201,7 +201,7 @@ TEST_F(AbandonedFile, ThatWasTakenFromItsMakerIsMadeAgain)
     CurrentFileOperations().create = [&](const std::string& path, unsigned mode) {
         const int file = real.create(path, mode);
         if (++made == 1) {
-            EXPECT_EQ(InChild([&] {
+            EXPECT_EQ(hlxtest::InChild([&] {
                           CurrentFileOperations() = real;
                           AtomicFile other;
                           EXPECT_TRUE(other.Begin(In("a"), error)) << error;

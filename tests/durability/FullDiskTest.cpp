@@ -3,7 +3,7 @@
 #include "durability/NamedDocument.h"
 #include "durability/PrivateMounts.h"
 #include "durability/SavingTest.h"
-#include "durability/StandardError.h"
+#include "support/Capture.h"
 #include "support/TemporaryFolder.h"
 
 #include <fstream>
@@ -71,7 +71,7 @@ TEST_P(FullDisk, WithAnyRoomLeftKeepsTheOldFileOrHasTheNewOne)
         EXPECT_EQ(way->State(), "new");
         EXPECT_EQ(Strays(), std::vector<std::string>{"filler"});
     };
-    const int code = InChild(fill);
+    const int code = hlxtest::InChild(fill);
     ASSERT_ENDED_WITH_MOUNTS(code);
 }
 
@@ -87,7 +87,7 @@ TEST_P(FullDisk, WithoutRoomForAnotherNameKeepsTheOldFile)
         EXPECT_FALSE(way->Save(error));
         ExpectWithoutLoss(error, {});
     };
-    const int code = InChild(fill);
+    const int code = hlxtest::InChild(fill);
     ASSERT_ENDED_WITH_MOUNTS(code);
 }
 
@@ -107,13 +107,13 @@ TEST_P(FullDisk, IsFreedOfWhatADeadProcessLeftBeforeItIsWritten)
         EXPECT_EQ(way->State(), "new");
         EXPECT_THAT(Strays(), testing::ElementsAre("filler"));
     };
-    const int code = InChild(fill);
+    const int code = hlxtest::InChild(fill);
     ASSERT_ENDED_WITH_MOUNTS(code);
 }
 
 TEST_P(FullDisk, AsALimitOfTheProcessKeepsTheOldFile)
 {
-    EXPECT_EQ(InChild([&] {
+    EXPECT_EQ(hlxtest::InChild([&] {
                   way->Prepare();
                   const rlimit limit{20'000, 20'000};
                   ::signal(SIGXFSZ, SIG_IGN);
@@ -138,14 +138,15 @@ TEST(FullDiskElsewhere, TakesTheDocumentThatWasRefused)
         ASSERT_FALSE(testing::Test::HasFailure());
         StoreNamed(path, "old");
         NamedDocument document(path);
-        document.SetName(Sized("new", 100'000));
-        const std::string error = StandardErrorOf([&] { EXPECT_EQ(document.Save(), E_FAIL); });
+        document.SetName(Sized("new", 200'000));
+        const std::string error =
+            hlxtest::StandardErrorOf([&] { EXPECT_EQ(document.Save(), E_FAIL); });
         EXPECT_THAT(error, HasSubstr("No space left on device"));
         EXPECT_EQ(document.SaveAs(elsewhere.File("a.VEXAnalysis")), S_OK);
     };
-    const int code = InChild(fill);
+    const int code = hlxtest::InChild(fill);
     ASSERT_ENDED_WITH_MOUNTS(code);
-    EXPECT_EQ(StoredName(elsewhere.File("a.VEXAnalysis")), Sized("new", 100'000));
+    EXPECT_EQ(StoredName(elsewhere.File("a.VEXAnalysis")), Sized("new", 200'000));
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ public:
         Wrap("synchronize", now.synchronize, before);
         Wrap("rename", now.rename, before);
         Wrap("rename", now.renameToNew, before);
+        Wrap("link", now.link, before);
         Wrap("synchronizeFolder", now.synchronizeFolder, before);
         Wrap("remove", now.remove, before);
     }

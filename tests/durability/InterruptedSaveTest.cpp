@@ -52,7 +52,7 @@ TEST_P(InterruptedSave, FailingAtEachOperationKeepsTheOldStateAndTheNextSaveSucc
     };
     for (int failing = 1; failing <= count; ++failing) {
         for (const bool fromThenOn : {true, false}) {
-            EXPECT_EQ(InChild([&] { failAt(failing, fromThenOn); }), 0)
+            EXPECT_EQ(hlxtest::InChild([&] { failAt(failing, fromThenOn); }), 0)
                 << "operation " << failing << " of " << count
                 << (fromThenOn ? " and all after it" : "");
             EXPECT_EQ(way->State(), fromThenOn && failing < count ? "old" : "new") << failing;
@@ -69,7 +69,7 @@ TEST_P(InterruptedSave, KilledAtEachOperationIsWholeAndTheNextSaveRemovesWhatItL
     const int count = CountOperations();
     const auto killAt = [&](int killing) {
         const int operations = count + (Strays().empty() ? 0 : 1);
-        const int end = InChild([&] {
+        const int end = hlxtest::InChild([&] {
             way->Prepare();
             int done = 0;
             const Interception interception([&](std::string_view) {
@@ -94,7 +94,7 @@ TEST_P(InterruptedSave, KilledAtEachOperationIsWholeAndTheNextSaveRemovesWhatItL
         killAt(killing);
     killAt(count - 2);
     EXPECT_EQ(Strays().size(), 1U);
-    EXPECT_EQ(InChild([&] {
+    EXPECT_EQ(hlxtest::InChild([&] {
                   way->Prepare();
                   std::string error;
                   EXPECT_TRUE(way->Save(error)) << error;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // A document stored where nothing may be replaced, while another one stores there: one of them is
-// refused, and what the other stored stays.
+// refused, and what the other stored stays. On every file system: some have an operation for that,
+// others are known by what they answer to it.
 #include "durability/NamedDocument.h"
-#include "durability/StandardError.h"
 #include "reference/store/StoreFixture.h"
+#include "support/Capture.h"
 
 #include <cerrno>
 
@@ -15,7 +16,7 @@ namespace {
 using namespace vex::store::test;
 namespace system = vex::system;
 
-class KeptFile : public FolderTest
+class KeptFile : public FolderTest, public testing::WithParamInterface<int>
 {
 protected:
     KeptFile()
@@ -24,6 +25,10 @@ protected:
         refusal = "vex: '" + path +
                   "': there is such a file already. Give another path, or allow it to be "
                   "replaced.\n";
+        if (GetParam() != 0) {
+            system::CurrentFileOperations().renameToNew =
+                [](const std::string&, const std::string&) { return -GetParam(); };
+        }
     }
 
     /// Puts another file there right before the new one gets its name.
@@ -39,7 +44,7 @@ protected:
     HRESULT Store()
     {
         HRESULT result = E_FAIL;
-        said = StandardErrorOf([&] { result = document.SaveAs(path, false); });
+        said = hlxtest::StandardErrorOf([&] { result = document.SaveAs(path, false); });
         return result;
     }
 
@@ -50,7 +55,7 @@ protected:
     std::string said;
 };
 
-TEST_F(KeptFile, ThatIsThereBefore)
+TEST_P(KeptFile, ThatIsThereBefore)
 {
     WriteFile(path, "another's");
     EXPECT_EQ(Store(), E_FAIL);
@@ -65,7 +70,7 @@ TEST_F(KeptFile, ThatIsThereBefore)
     EXPECT_EQ(FileCount(), 1U);
 }
 
-TEST_F(KeptFile, ThatCameMeanwhile)
+TEST_P(KeptFile, ThatCameMeanwhile)
 {
     ComeFirst();
     EXPECT_EQ(Store(), E_FAIL);
@@ -74,7 +79,7 @@ TEST_F(KeptFile, ThatCameMeanwhile)
     EXPECT_EQ(FileCount(), 1U);
 }
 
-TEST_F(KeptFile, ThatCameWhileACopyWasMade)
+TEST_P(KeptFile, ThatCameWhileACopyWasMade)
 {
     ASSERT_EQ(document.SaveAs(In("first.VEXAnalysis")), S_OK);
     ComeFirst();
@@ -84,12 +89,76 @@ TEST_F(KeptFile, ThatCameWhileACopyWasMade)
     EXPECT_EQ(FileCount(), 2U);
 }
 
-TEST_F(KeptFile, IsReplacedWhenThatIsAllowed)
+TEST_P(KeptFile, IsReplacedWhenThatIsAllowed)
 {
     ComeFirst();
     EXPECT_EQ(document.SaveAs(path, true), S_OK);
     EXPECT_NE(ReadFile(path), "another's");
     EXPECT_EQ(FileCount(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(, KeptFile, testing::Values(0, EINVAL, ENOSYS),
+                         [](const testing::TestParamInfo<int>& answer) {
+                             return answer.param == 0        ? "AsTheSystemAnswers"
+                                    : answer.param == EINVAL ? "WithoutTheOperationOnTheFileSystem"
+                                                             : "WithoutTheOperationInTheSystem";
+                         });
+
+/// A file system that has no operation to give a file a name that nothing has.
+class SecondName : public FolderTest
+{
+protected:
+    SecondName()
+    {
+        system::CurrentFileOperations().renameToNew = [](const std::string&, const std::string&) {
+            return -EINVAL;
+        };
+    }
+
+    const OperationsGuard guard;
+    const std::string path = In("a.VEXAnalysis");
+};
+
+TEST_F(SecondName, ThatCannotBeGivenRefusesTheSave)
+{
+    system::CurrentFileOperations().link = [](const std::string&, const std::string&) {
+        return -EPERM;
+    };
+    NamedDocument document;
+    EXPECT_EQ(hlxtest::StandardErrorOf([&] { EXPECT_EQ(document.SaveAs(path, false), E_FAIL); }),
+              "vex: '" + path +
+                  "': saving failed: giving the new file its name: Operation not permitted. Check "
+                  "the folder's permissions and the room on the disk, or save to another place; "
+                  "the file as it was before is untouched.\n");
+    EXPECT_EQ(FileCount(), 0U);
+}
+
+TEST_F(SecondName, IsEnoughAndTheNextSaveRemovesTheFirst)
+{
+    NamedDocument document;
+    document.SetName("kept");
+    {
+        const OperationsGuard whileNothingIsRemoved;
+        system::CurrentFileOperations().remove = [](const std::string&) { return -EIO; };
+        ASSERT_EQ(document.SaveAs(path, false), S_OK);
+    }
+    EXPECT_EQ(FileCount(), 2U);
+    document.SetName("kept, and changed");
+    EXPECT_EQ(document.Save(), S_OK);
+    EXPECT_EQ(FileCount(), 1U);
+}
+
+TEST_F(SecondName, IsNotTriedAfterAnyOtherFailure)
+{
+    system::CurrentFileOperations().renameToNew = [](const std::string&, const std::string&) {
+        return -EIO;
+    };
+    NamedDocument document;
+    EXPECT_NE(hlxtest::StandardErrorOf([&] {
+                  EXPECT_EQ(document.SaveAs(path, false), E_FAIL);
+              }).find("Input/output error"),
+              std::string::npos);
+    EXPECT_EQ(FileCount(), 0U);
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // Eight processes commit settings and save documents in one folder, some of them the same ones,
 // while a ninth opens all of it again and again and others that do the same are killed.
-#include "durability/ChildProcess.h"
 #include "durability/NamedDocument.h"
 #include "host/system/SettingsStore.h"
 #include "reference/store/StoreFixture.h"
+#include "support/ChildProcess.h"
 
 #include <fmt/format.h>
 
@@ -74,10 +74,10 @@ protected:
     {
         std::mt19937 random(8);
         while (!*done) {
-            const pid_t child = StartChild([&] { WorkWithoutEnd(); });
+            const pid_t child = hlxtest::StartChild([&] { WorkWithoutEnd(); });
             std::this_thread::sleep_for(std::chrono::milliseconds(random() % 40));
             EXPECT_EQ(::kill(child, SIGKILL), 0);
-            EXPECT_EQ(EndOf(child), -SIGKILL);
+            EXPECT_EQ(hlxtest::EndOf(child), -SIGKILL);
             ++*kills;
         }
     }
@@ -98,25 +98,25 @@ protected:
     }
 
     const std::string settings = In("s.VEXSettings");
-    const Shared<std::atomic<bool>> done;
-    const Shared<std::atomic<int>> looks;
-    const Shared<std::atomic<int>> kills;
+    const hlxtest::Shared<std::atomic<bool>> done;
+    const hlxtest::Shared<std::atomic<int>> looks;
+    const hlxtest::Shared<std::atomic<int>> kills;
 };
 
 TEST_F(ManyProcesses, LoseNothingAndSeeNothingTorn)
 {
     for (int process = 0; process < kProcesses; ++process)
         StoreNamed(DocumentOf(process), Sized("first", kSize));
-    const pid_t watcher = StartChild([&] { WatchUntilDone(); });
-    const pid_t killer = StartChild([&] { KillUntilDone(); });
+    const pid_t watcher = hlxtest::StartChild([&] { WatchUntilDone(); });
+    const pid_t killer = hlxtest::StartChild([&] { KillUntilDone(); });
     std::vector<pid_t> workers;
     for (int process = 0; process < kProcesses; ++process)
-        workers.push_back(StartChild([&] { Work(process); }));
+        workers.push_back(hlxtest::StartChild([&] { Work(process); }));
     for (const pid_t worker : workers)
-        EXPECT_EQ(EndOf(worker), 0);
+        EXPECT_EQ(hlxtest::EndOf(worker), 0);
     *done = true;
-    EXPECT_EQ(EndOf(watcher), 0);
-    EXPECT_EQ(EndOf(killer), 0);
+    EXPECT_EQ(hlxtest::EndOf(watcher), 0);
+    EXPECT_EQ(hlxtest::EndOf(killer), 0);
     EXPECT_GT(*looks, 10);
     EXPECT_GT(*kills, 10);
     RecordProperty("looks", *looks);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // A process that saves without end is killed at any time: the document is the one of the last save
 // that ended or of the one that ran, whole.
-#include "durability/ChildProcess.h"
 #include "durability/NamedDocument.h"
 #include "reference/store/StoreFixture.h"
+#include "support/ChildProcess.h"
 
 #include <atomic>
 #include <chrono>
@@ -57,7 +57,7 @@ protected:
     }
 
     const std::string path = In("killed.VEXAnalysis");
-    const Shared<Progress> progress;
+    const hlxtest::Shared<Progress> progress;
 };
 
 TEST_F(RandomKill, AtAnyTimeLeavesTheLastStateOrTheNextOne)
@@ -69,7 +69,7 @@ TEST_F(RandomKill, AtAnyTimeLeavesTheLastStateOrTheNextOne)
     int stray = 0;
     int from = 1;
     for (int kill = 0; kill < kKills; ++kill) {
-        const pid_t child = StartChild([&] { SaveWithoutEnd(from); });
+        const pid_t child = hlxtest::StartChild([&] { SaveWithoutEnd(from); });
         ASSERT_NO_FATAL_FAILURE(WaitFor(child, progress->begun, from));
         if (kill == 0) {
             ASSERT_NO_FATAL_FAILURE(WaitFor(child, progress->ended, 5));
@@ -78,7 +78,7 @@ TEST_F(RandomKill, AtAnyTimeLeavesTheLastStateOrTheNextOne)
         std::uniform_int_distribution<std::int64_t> delays(0, 2 * usual.count());
         std::this_thread::sleep_for(microseconds(delays(random)));
         ASSERT_EQ(::kill(child, SIGKILL), 0);
-        ASSERT_EQ(EndOf(child), -SIGKILL);
+        ASSERT_EQ(hlxtest::EndOf(child), -SIGKILL);
         const int begun = progress->begun;
         const int ended = progress->ended;
         if (begun != ended) ++inside;

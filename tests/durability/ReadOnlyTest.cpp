@@ -18,7 +18,7 @@ protected:
     // In a child that is not root, whom nothing stops: tries to save and answers the child's code.
     int SaveAsOrdinaryUser(const std::string& reason)
     {
-        return InChild([&] {
+        return hlxtest::InChild([&] {
             way->Prepare();
             ASSERT_TRUE(::geteuid() != 0 || (::setgid(65534) == 0 && ::setuid(65534) == 0));
             ExpectRefused(reason);
@@ -70,7 +70,7 @@ TEST_P(ReadOnly, MountIsToldAsWhatItIs)
         way->Prepare();
         ExpectRefused("the file is protected from writing: Read-only file system");
     };
-    const int code = InChild(mountAndSave);
+    const int code = hlxtest::InChild(mountAndSave);
     ASSERT_ENDED_WITH_MOUNTS(code);
     ExpectUnchanged();
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the file that replaces another one is like: its name in the making, its permissions, the
 // process's descriptors.
-#include "durability/ChildProcess.h"
 #include "reference/store/StoreFixture.h"
+#include "support/ChildProcess.h"
 
 #include <cerrno>
 
@@ -99,7 +99,7 @@ TEST_F(ReplacedFile, PassesItsGroupOnOrGrantsAnotherGroupNothing)
         WriteFile(path, old);
         ASSERT_EQ(::chown(path.c_str(), 0, group), 0);
         ASSERT_EQ(::chmod(path.c_str(), row.mode), 0);
-        EXPECT_EQ(InChild([&] {
+        EXPECT_EQ(hlxtest::InChild([&] {
                       ASSERT_EQ(::setgroups(row.inGroup ? 1 : 0, &group), 0);
                       ASSERT_EQ(::setgid(user), 0);
                       ASSERT_EQ(::setuid(user), 0);
@@ -126,7 +126,7 @@ TEST_F(ReplacedFile, LeavesStandardStreamsThatAreClosedFree)
         }
         ::_exit(begun && writer.Commit(error) ? 0 : 3);
     };
-    EXPECT_EQ(InChild(save), 0);
+    EXPECT_EQ(hlxtest::InChild(save), 0);
 }
 
 }  // namespace

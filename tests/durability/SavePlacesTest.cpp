@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // Documents stored where something is already, where a link leads, and where nothing is any more.
 #include "durability/NamedDocument.h"
-#include "durability/StandardError.h"
 #include "host/feature/DocumentSession.h"
 #include "reference/store/StoreFixture.h"
+#include "support/Capture.h"
 
 #include <sys/stat.h>
 
@@ -25,7 +25,7 @@ protected:
                               const std::string& reason)
     {
         HRESULT result = S_OK;
-        const std::string said = StandardErrorOf([&] { result = save(); });
+        const std::string said = hlxtest::StandardErrorOf([&] { result = save(); });
         EXPECT_EQ(result, E_FAIL);
         EXPECT_THAT(said, HasSubstr(file + "': "));
         EXPECT_THAT(said, HasSubstr(reason));

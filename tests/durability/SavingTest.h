@@ -2,10 +2,10 @@
 // A test of one way to save, in a folder of its own that holds the old state.
 #pragma once
 
-#include "durability/ChildProcess.h"
 #include "durability/Interception.h"
 #include "durability/WaysToSave.h"
 #include "host/system/UnfinishedFile.h"
+#include "support/ChildProcess.h"
 
 #include <string>
 
@@ -23,14 +23,14 @@ protected:
     int CountOperations()
     {
         const std::string old = vex::store::test::ReadFile(Path());
-        const Shared<int> count;
+        const hlxtest::Shared<int> count;
         const auto save = [&] {
             way->Prepare();
             const Interception counting([&](std::string_view) { return ++*count, 0; });
             std::string error;
             EXPECT_TRUE(way->Save(error)) << error;
         };
-        EXPECT_EQ(InChild(save), 0);
+        EXPECT_EQ(hlxtest::InChild(save), 0);
         EXPECT_EQ(way->State(), "new");
         vex::store::test::WriteFile(Path(), old);
         return *count;

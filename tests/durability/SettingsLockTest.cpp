@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // A commit of settings waits for those that are busy in their folder.
-#include "durability/ChildProcess.h"
 #include "host/system/SettingsStore.h"
 #include "reference/store/StoreFixture.h"
+#include "support/ChildProcess.h"
 
 #include <atomic>
 #include <chrono>
@@ -27,8 +27,8 @@ protected:
     // a busy one, or one that is stuck and has to be killed.
     pid_t HoldFolder(bool busily) const
     {
-        const Shared<std::atomic<bool>> isHeld;
-        const pid_t child = StartChild([&] {
+        const hlxtest::Shared<std::atomic<bool>> isHeld;
+        const pid_t child = hlxtest::StartChild([&] {
             const Descriptor held(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
             EXPECT_EQ(::flock(held.Number(), LOCK_EX | LOCK_NB), 0);
             *isHeld = true;
@@ -56,7 +56,7 @@ TEST_F(SettingsLock, IsWaitedForAsLongAsItsHolderIsBusy)
 {
     const pid_t holder = HoldFolder(true);
     EXPECT_TRUE(Commit()) << error;
-    EXPECT_EQ(EndOf(holder), 0);
+    EXPECT_EQ(hlxtest::EndOf(holder), 0);
 }
 
 TEST_F(SettingsLock, OfOneWhoIsStuckIsToldAndGoesWithHim)
@@ -67,7 +67,7 @@ TEST_F(SettingsLock, OfOneWhoIsStuckIsToldAndGoesWithHim)
                          "': another process keeps the folder locked. End it and try again.");
     EXPECT_EQ(FileCount(), 0U);
     ASSERT_EQ(::kill(holder, SIGKILL), 0);
-    EXPECT_EQ(EndOf(holder), -SIGKILL);
+    EXPECT_EQ(hlxtest::EndOf(holder), -SIGKILL);
     EXPECT_TRUE(Commit()) << error;
 }
 

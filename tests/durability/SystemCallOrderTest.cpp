@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <sstream>
 
 namespace durabilitytest {
@@ -40,11 +41,12 @@ protected:
     SystemCallOrder()
     {
         StoreNamed(document, Sized("name", 50'000));
+        std::filesystem::create_directory(folder.File("copies"));
         const hlxtest::Ended ended = hlxtest::RunProgram(
             {"/usr/bin/strace", "-f", "-y", "-s", "8", "-o", folder.File("trace"), "-e",
              "trace=openat,open,creat,flock,write,pwrite64,pwritev,writev,fsync,fdatasync,rename,"
              "renameat,renameat2,unlink,unlinkat,ftruncate,truncate,sync,syncfs,sync_file_range",
-             HLX_BINARY_DIR "/tests/specimens/saving_program", document},
+             HLX_BINARY_DIR "/tests/specimens/saving_program", document, copy},
             {{"VEX_SETTINGS=" + settings,
               "ASAN_OPTIONS=detect_leaks=0"}});  // leaks need ptrace too
         EXPECT_EQ(ended.code, 0)
@@ -82,6 +84,18 @@ protected:
         return steps;
     }
 
+    std::size_t WritesOf(const std::string& file) const
+    {
+        const std::string unfinished = PathOfUnfinished(file);
+        std::size_t writes = 0;
+        std::istringstream lines(trace);
+        for (std::string line; std::getline(lines, line);) {
+            writes += line.find(" pwrite64(") != std::string::npos &&
+                      line.find('<' + unfinished + '>') != std::string::npos;
+        }
+        return writes;
+    }
+
     // The path of the new file, from the line that makes it.
     std::string PathOfUnfinished(const std::string& file) const
     {
@@ -100,6 +114,7 @@ protected:
 
     const hlxtest::TemporaryFolder folder;
     const std::string document = folder.File("documents.VEXAnalysis");
+    const std::string copy = folder.File("copies/copy.VEXAnalysis");
     const std::string settings = folder.File("settings/HLX/s.VEXSettings");
     std::string trace;
 };
@@ -109,6 +124,15 @@ TEST_F(SystemCallOrder, OfADocument)
     EXPECT_THAT(StepsOf(document), ElementsAre("make", "lock", "write", "synchronise", "rename",
                                                "synchronise the folder"))
         << trace;
+}
+
+TEST_F(SystemCallOrder, OfACopyOfADocumentThatIsAsItWasStored)
+{
+    EXPECT_THAT(StepsOf(copy), ElementsAre("make", "lock", "write", "synchronise", "rename",
+                                           "synchronise the folder"))
+        << trace;
+    EXPECT_LT(WritesOf(copy), WritesOf(document)) << "its pages are written anew, not copied";
+    EXPECT_EQ(hlxtest::ReadFile(copy), hlxtest::ReadFile(document));
 }
 
 TEST_F(SystemCallOrder, OfSettings)

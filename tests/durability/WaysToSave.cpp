@@ -4,9 +4,9 @@
 #include "HLXIZPKWBGeneralSettingAtt.h"
 #include "VEXIIniSettingManagment.h"
 #include "durability/NamedDocument.h"
-#include "durability/StandardError.h"
 #include "host/system/SettingsStore.h"
 #include "reference/store/StoreFixture.h"
+#include "support/Capture.h"
 #include "support/TemporaryFolder.h"
 
 #include <cstdlib>
@@ -66,7 +66,7 @@ public:
     bool Save(std::string& error) override
     {
         HRESULT result = E_FAIL;
-        error = StandardErrorOf([&] { result = Store(); });
+        error = hlxtest::StandardErrorOf([&] { result = Store(); });
         EXPECT_EQ(error.empty(), result == S_OK) << error;
         return result == S_OK;
     }
@@ -166,7 +166,7 @@ public:
     {
         const VEXVar<VEXIIniSettingManagment> repository(_settings);
         HRESULT result = E_FAIL;
-        error = StandardErrorOf([&] { result = repository->Commit(); });
+        error = hlxtest::StandardErrorOf([&] { result = repository->Commit(); });
         EXPECT_EQ(error.empty(), result == S_OK) << error;
         return result == S_OK;
     }

@@ -115,7 +115,7 @@ class LogName : public TimingTest, public testing::WithParamInterface<NameRow>
 
 TEST_P(LogName, IsNameSystemAndDateWithThreeSlashesReplaced)
 {
-    const Environment other("VEX_SYSTEM_NAME", GetParam().system);
+    const EnvironmentVariable other("VEX_SYSTEM_NAME", GetParam().system);
     const std::string expected = folder.File(GetParam().fileName);
     std::filesystem::create_directories(std::filesystem::path(expected).parent_path());
     std::string name = GetParam().name;
@@ -172,7 +172,7 @@ class LogDate : public TimingTest, public testing::WithParamInterface<DateRow>
 
 TEST_P(LogDate, IsTheLocalMomentOfCreationInPlainDigits)
 {
-    const Environment other("TZ", GetParam().zone);
+    const EnvironmentVariable other("TZ", GetParam().zone);
     clock.time = [] { return GetParam().moment; };
     Create("Run");
     clock.time = [] { return std::time_t{0}; };

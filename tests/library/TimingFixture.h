@@ -2,6 +2,7 @@
 // A test case with an output directory, at a moment and on a system that the test knows.
 #pragma once
 
+#include "support/EnvironmentVariable.h"
 #include "support/ExposedTestCase.h"
 #include "support/FakeClock.h"
 #include "support/Outcome.h"
@@ -10,42 +11,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <optional>
 #include <string>
 
 namespace hlxtest {
 
 inline constexpr std::time_t kMoment = 1209967628;  // 5 May 2008, 06:07:08 UTC
-
-/// Sets an environment variable while it lives.
-class Environment
-{
-public:
-    Environment(const char* name, const char* value) : _name(name)
-    {
-        if (const char* const former = std::getenv(name); former != nullptr) {
-            _former = former;
-        }
-        setenv(name, value, 1);
-        tzset();
-    }
-    ~Environment()
-    {
-        if (_former) {
-            setenv(_name, _former->c_str(), 1);
-        } else {
-            unsetenv(_name);
-        }
-        tzset();
-    }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-
-private:
-    const char* _name;
-    std::optional<std::string> _former;
-};
 
 class TimingTest : public testing::Test
 {
@@ -86,8 +56,8 @@ protected:
         "Start Time :\t\t\t6 7 8\n"
         "\n";
 
-    const Environment zone{"TZ", "UTC0"};
-    const Environment system{"VEX_SYSTEM_NAME", "System A"};
+    const EnvironmentVariable zone{"TZ", "UTC0"};
+    const EnvironmentVariable system{"VEX_SYSTEM_NAME", "System A"};
     const TemporaryFolder folder;
     const std::string path = folder.File("Run_System A_5_5_2008.txt");
     FakeClock clock;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// A program as a user writes one: it opens the document that it is given, stores it, and stores a
-// setting.
+// A program as a user writes one: it opens the document that it is given, stores it, stores it
+// under another path, unchanged, and stores a setting.
 #include "HLXIZPKWBGeneralSettingAtt.h"
 #include "VEXDocumentServices.h"
 #include "VEXIIniSettingManagment.h"
@@ -28,9 +28,10 @@ bool StoreSetting()
 int main(int argc, char** argv)
 {
     VEXDocument* document = nullptr;
-    if (argc != 2 || FAILED(VEXDocumentServices::OpenDocument(argv[1], document, 0)) ||
-        FAILED(VEXDocumentServices::Save(*document)) || !StoreSetting()) {
-        std::fputs("usage: saving_program DOCUMENT\n", stderr);
+    if (argc != 3 || FAILED(VEXDocumentServices::OpenDocument(argv[1], document, 0)) ||
+        FAILED(VEXDocumentServices::Save(*document)) ||
+        FAILED(VEXDocumentServices::SaveAs(*document, argv[2], "", 1)) || !StoreSetting()) {
+        std::fputs("usage: saving_program DOCUMENT OTHER_DOCUMENT\n", stderr);
         return 1;
     }
     return 0;

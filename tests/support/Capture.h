@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// What a piece of code wrote to standard output and standard error, as bytes.
+// What a piece of code wrote to standard output and standard error, as bytes. Kept in memory: a
+// process that is killed meanwhile leaves no file, and a full disk does not matter.
 #pragma once
-
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
@@ -16,16 +15,10 @@ struct Captured
 };
 
 /// Runs `body` and answers what it wrote. Also catches what was written through the file
-/// descriptors themselves.
-inline Captured Capture(const std::function<void()>& body)
-{
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    body();
-    Captured captured;
-    captured.out = testing::internal::GetCapturedStdout();
-    captured.err = testing::internal::GetCapturedStderr();
-    return captured;
-}
+/// descriptors themselves. Captures may be nested: the inner one has what is written meanwhile.
+Captured Capture(const std::function<void()>& body);
+
+/// The same of standard error alone.
+std::string StandardErrorOf(const std::function<void()>& body);
 
 }  // namespace hlxtest

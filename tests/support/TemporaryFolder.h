@@ -27,6 +27,7 @@ private:
 
 /// The bytes of a file; the test fails when it cannot be read.
 std::string ReadFile(const std::string& path);
+/// Puts a new file there, in place of the one of that name; the test fails when it cannot.
 void WriteFile(const std::string& path, std::string_view bytes);
 bool FileExists(const std::string& path);
 

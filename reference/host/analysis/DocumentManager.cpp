@@ -13,11 +13,11 @@ namespace {
 
 constexpr const char* linkType = "VEXSamDocumentLink";
 
-/// The path of a linked document; empty for another feature and for a link to nothing.
-std::string LinkedPath(const Feature& feature)
+/// A link to nothing for another feature.
+DocumentLink LinkOf(const Feature& feature)
 {
     if (!feature.Kind().IsKindOf(linkType)) return {};
-    return feature.GetAs<DocumentLink>("Document").path;
+    return feature.GetAs<DocumentLink>("Document");
 }
 
 }  // namespace
@@ -30,13 +30,13 @@ HRESULT DocumentManagerAdapter::GetLinkedDocuments(VEXListPtrVEXDocument& docume
                 return E_FAIL;
             }
             for (const Feature* const child : Self().Children()) {
-                const std::string path = LinkedPath(*child);
-                if (path.empty()) {
+                const DocumentLink link = LinkOf(*child);
+                if (link.path == SharedText()) {
                     continue;
                 }
                 std::string error;
                 const Document* const document =
-                    DocumentSession::Instance().OpenLinked(path, error);
+                    DocumentSession::Instance().OpenLinked(link, error);
                 if (document == nullptr) {
                     Tell("linked document: " + error);
                 }
@@ -59,13 +59,18 @@ HRESULT DocumentManagerAdapter::AddLink(VEXDocument* document)
             if (target == nullptr || target->Path().empty() || target == &tree->Owner()) {
                 return E_INVALIDARG;
             }
-            for (const Feature* const child : Self().Children()) {
-                if (LinkedPath(*child) == target->Path()) {
+            const DocumentLink wanted{target->Path(), target->DocType()};
+            for (Feature* const child : Self().Children()) {
+                const DocumentLink link = LinkOf(*child);
+                if (link == wanted) {
                     return S_OK;
+                }
+                if (link.path == wanted.path) {  // to a document of another kind, once there
+                    return child->Set("Document", Boxed<DocumentLink>(wanted));
                 }
             }
             Feature& link = tree->Create(LateTypes::Instance().Require(linkType), &Self());
-            return link.Set("Document", Boxed<DocumentLink>(DocumentLink{target->Path()}));
+            return link.Set("Document", Boxed<DocumentLink>(wanted));
         },
         In(DocumentArgument{document}));
 }

@@ -3,6 +3,9 @@
 #include "host/feature/DocumentLinks.h"
 
 #include "host/feature/DocumentPath.h"
+#include "host/system/MessageTexts.h"
+
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <unordered_map>
@@ -55,6 +58,17 @@ void Reach(Links& links, std::vector<Document*> starts, DocumentSet& reached)
 }
 
 }  // namespace
+
+bool IsAsLinked(const Document& document, const DocumentLink& link, std::string& error)
+{
+    if (!link.kind || *link.kind == document.DocType()) return true;
+    error = fmt::format(
+        "{}: it is a document of type {}, and the link to it says {}. Put that one back in its "
+        "place, or link to this one anew.",
+        system::Quoted(document.Path()), Document::TypeName(document.DocType()),
+        Document::TypeName(*link.kind));
+    return false;
+}
 
 std::vector<std::string> LinkedPaths(const Document& document)
 {

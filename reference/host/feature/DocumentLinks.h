@@ -9,6 +9,9 @@
 
 namespace vex {
 
+/// Whether a document is what a link to it says of its kind. False with the reason in `error`.
+VEX_EXPORT bool IsAsLinked(const Document& document, const DocumentLink& link, std::string& error);
+
 /// The paths of the documents that a document links to, each once, in the order of its features.
 VEX_EXPORT std::vector<std::string> LinkedPaths(const Document& document);
 

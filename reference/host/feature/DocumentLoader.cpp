@@ -58,7 +58,7 @@ private:
     store::DocumentReader& _reader;
     const std::string& _path;
     std::vector<Kind> _kinds;
-    std::map<store::Id, SharedText> _links;
+    std::map<store::Id, DocumentLink> _links;
     std::vector<Feature*> _features;  ///< by row
     std::vector<PendingReference> _references;
 };
@@ -67,7 +67,7 @@ DocumentLoader::DocumentLoader(store::DocumentReader& reader, const std::string&
     : _reader(reader), _path(path), _kinds(reader.LateTypes().size())
 {
     for (const store::LinkRow& link : reader.Links()) {
-        _links.emplace(link.id, store::ResolveRelative(path, link.path));
+        _links.emplace(link.id, DocumentLink{store::ResolveRelative(path, link.path), link.kind});
     }
 }
 
@@ -124,8 +124,7 @@ Value DocumentLoader::ValueOf(const store::Attribute& attribute) const
             return Reference{static_cast<FeatureId>(attribute.integer)};
         case AttributeKind::Link: {
             const auto link = _links.find(attribute.integer);
-            return Boxed<DocumentLink>(
-                DocumentLink{link == _links.end() ? SharedText() : link->second});
+            return Boxed<DocumentLink>(link == _links.end() ? DocumentLink() : link->second);
         }
         case AttributeKind::List:
             return Boxed<DoubleList>(doubles());

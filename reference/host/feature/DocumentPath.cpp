@@ -32,7 +32,8 @@ std::string AbsoluteDocumentPath(std::string_view path, std::string& error)
         return {};
     }
     const fs::path plain = absolute.lexically_normal();
-    const bool isPlain = fs::weakly_canonical(plain.parent_path(), code) == folder && !code;
+    const bool isPlain = plain.native() == absolute.native() ||
+                         (fs::weakly_canonical(plain.parent_path(), code) == folder && !code);
     std::string whole = isPlain ? plain.string() : (folder / absolute.filename()).string();
     // A relative path stands in the current folder, whatever bytes that one is called by.
     if (const char* const fault = system::TextFault(whole)) {

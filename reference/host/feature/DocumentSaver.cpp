@@ -13,6 +13,7 @@
 
 #include <map>
 #include <unordered_map>
+#include <utility>
 
 namespace vex {
 
@@ -42,13 +43,13 @@ private:
 
     Kind* KindOf(const LateType& type);
     bool Pack(Kind& kind, const LateType& type, int index, const Value& value);
-    std::optional<store::Id> LinkTo(const std::string& target);
+    std::optional<store::Id> LinkTo(const DocumentLink& link);
 
     store::DocumentWriter& _writer;
     const std::string& _path;
     store::AttributePacker _packer;
     std::unordered_map<const LateType*, Kind> _kinds;
-    std::map<std::string, store::Id> _links;
+    std::map<std::pair<std::string, store::DocumentKind>, store::Id> _links;
     std::string _fault;
     bool _writerRefused = false;  ///< a name or a link: it tells why itself
 };
@@ -76,18 +77,19 @@ store::DocumentKind KindOfTarget(const std::string& path)
     return Document::TypeFromText(path).value_or(store::DocumentKind::Part);
 }
 
-std::optional<store::Id> DocumentSaver::LinkTo(const std::string& target)
+std::optional<store::Id> DocumentSaver::LinkTo(const DocumentLink& link)
 {
+    const std::string& target = link.path;
     if (target.empty()) {
         return 0;
     }
-    const auto [link, isNew] =
-        _links.try_emplace(target, static_cast<store::Id>(_links.size()) + 1);
-    if (isNew && !_writer.AddLink(
-                     {link->second, KindOfTarget(target), store::MakeRelative(_path, target)})) {
+    const store::DocumentKind kind = link.kind ? *link.kind : KindOfTarget(target);
+    const auto [row, isNew] =
+        _links.try_emplace({target, kind}, static_cast<store::Id>(_links.size()) + 1);
+    if (isNew && !_writer.AddLink({row->second, kind, store::MakeRelative(_path, target)})) {
         return std::nullopt;
     }
-    return link->second;
+    return row->second;
 }
 
 bool DocumentSaver::Pack(Kind& kind, const LateType& type, int index, const Value& value)
@@ -114,8 +116,7 @@ bool DocumentSaver::Pack(Kind& kind, const LateType& type, int index, const Valu
             return _packer.AddReference(*name,
                                         static_cast<store::Id>(std::get<Reference>(value).id));
         case ValueKind::DocumentLink: {
-            const std::optional<store::Id> link =
-                LinkTo(std::get<Boxed<DocumentLink>>(value)->path);
+            const std::optional<store::Id> link = LinkTo(*std::get<Boxed<DocumentLink>>(value));
             _writerRefused = _writerRefused || !link;
             return link && _packer.AddLink(*name, *link);
         }

@@ -106,12 +106,12 @@ void DocumentSession::Forget(const Document& document)
     }
 }
 
-HRESULT DocumentSession::Load(const std::string& absolutePath, bool readOnly, Document*& document,
-                              std::string& error)
+HRESULT DocumentSession::Load(const std::string& absolutePath, bool readOnly,
+                              const DocumentLink& link, Document*& document, std::string& error)
 {
     return WithinMemory(Quoted(absolutePath), error, [&] {
         DocumentHolder loaded = LoadDocument(absolutePath, error);
-        if (loaded == nullptr) return E_FAIL;
+        if (loaded == nullptr || !IsAsLinked(*loaded, link, error)) return E_FAIL;
         loaded->SetReadOnly(readOnly);
         document = Keep(std::move(loaded));
         return S_OK;
@@ -142,21 +142,22 @@ HRESULT DocumentSession::Open(std::string_view path, bool readOnly, Document*& d
     if (Document* const open = Find(absolute)) {
         open->SetReadOnly(open->IsReadOnly() && readOnly);
         document = open;
-    } else if (const HRESULT result = Load(absolute, readOnly, document, error); FAILED(result)) {
+    } else if (const HRESULT result = Load(absolute, readOnly, {}, document, error);
+               FAILED(result)) {
         return result;
     }
     document->SetOfProgram(true);
     return S_OK;
 }
 
-Document* DocumentSession::OpenLinked(std::string_view path, std::string& error)
+Document* DocumentSession::OpenLinked(const DocumentLink& link, std::string& error)
 {
+    const std::string& path = link.path;
     Document* document = Find(path);
-    if (document == nullptr) {
-        const std::string absolute = AbsoluteDocumentPath(path, error);
-        if (!absolute.empty()) {
-            Load(absolute, false, document, error);
-        }
+    if (document != nullptr) return IsAsLinked(*document, link, error) ? document : nullptr;
+    const std::string absolute = AbsoluteDocumentPath(path, error);
+    if (!absolute.empty()) {
+        Load(absolute, false, link, document, error);
     }
     return document;
 }

@@ -33,8 +33,9 @@ public:
     HRESULT Open(std::string_view path, bool readOnly, Document*& document, std::string& error);
 
     /// As Open, for the target of a link: a document that is open stays read-only if it was, and
-    /// one that is not is opened for the link's sake only. Null with the reason in `error`.
-    Document* OpenLinked(std::string_view path, std::string& error);
+    /// one that is not is opened for the link's sake only. Null with the reason in `error`: it
+    /// cannot be opened, or is not of the kind that the link says.
+    Document* OpenLinked(const DocumentLink& link, std::string& error);
 
     /// @param type  as Document::TypeFromText  @return S_OK; E_INVALIDARG when there is no such
     /// type
@@ -65,8 +66,9 @@ public:
 private:
     DocumentSession() = default;
 
-    HRESULT Load(const std::string& absolutePath, bool readOnly, Document*& document,
-                 std::string& error);
+    /// @param link  what leads there; it need not say anything
+    HRESULT Load(const std::string& absolutePath, bool readOnly, const DocumentLink& link,
+                 Document*& document, std::string& error);
     /// Takes a document into the session, or throws and leaves the session as it was.
     Document* Keep(DocumentHolder document);
     Document* FindKnown(const std::string& name) const;

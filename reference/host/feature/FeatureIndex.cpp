@@ -18,12 +18,19 @@ constexpr std::size_t smallest = 16;
 /// How many times as many places as features the array may have.
 constexpr std::size_t mostPlaces = 2;
 
+/// One for all: no file that is made elsewhere can know it, and chance is slow.
+std::uint64_t SeedOfProcess()
+{
+    static const std::uint64_t seed = [] {
+        std::random_device chance;
+        return (std::uint64_t{chance()} << 32U) ^ chance();
+    }();
+    return seed;
+}
+
 }  // namespace
 
-FeatureIndex::FeatureIndex() : _seed(std::random_device{}())
-{
-    _seed = (_seed << 32U) ^ std::random_device{}();
-}
+FeatureIndex::FeatureIndex() : _seed(SeedOfProcess()) {}
 
 std::size_t FeatureIndex::Start(FeatureId id) const noexcept
 {

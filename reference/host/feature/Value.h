@@ -4,9 +4,11 @@
 #pragma once
 
 #include "VEXTypes.h"
+#include "host/store/DocumentKind.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <variant>
@@ -61,6 +63,8 @@ private:
 struct DocumentLink
 {
     SharedText path;  ///< absolute while open; stored relative to the document
+    /// Of the other document. None: nobody said; it is found out when the link is stored.
+    std::optional<store::DocumentKind> kind = {};
     friend bool operator==(const DocumentLink&, const DocumentLink&) = default;
 };
 

@@ -94,8 +94,9 @@ public:
 
     // Reads a STEP file into `out`. False when the file is missing, broken or without a shape:
     // `out` is then as it was and `error` names the file, the place and what can be done. The file
-    // is translated in a child process, so that no file can end or block this one; the limit is 300
-    // s, or VEX_STEP_SECONDS of the environment.
+    // is translated in a child process, so that no file can end or block this one, or take its
+    // memory. The limits are 300 s, or VEX_STEP_SECONDS of the environment, and as many MiB as a
+    // sound file of that size can take, or VEX_STEP_MEBIBYTES.
     virtual bool ReadStep(const std::string& path, ImportedAssembly& out, std::string& error) = 0;
 
     // Makes a model of bytes that came from ReadStep and whose digest was checked; null with a

@@ -62,9 +62,10 @@ Document* LinkedDocument(const Feature& node, std::string& error)
     if (node.Tree() == nullptr || !node.Kind().IsKindOf(productNodeType)) {
         return nullptr;
     }
-    const std::string& path = node.GetAs<DocumentLink>("Document").path;
+    const auto& link = node.GetAs<DocumentLink>("Document");
+    const std::string& path = link.path;
     Document* const linked =
-        path.empty() ? nullptr : DocumentSession::Instance().OpenLinked(path, error);
+        path.empty() ? nullptr : DocumentSession::Instance().OpenLinked(link, error);
     if (linked == nullptr || linked->DocType() != DocumentType::Analysis) {
         return linked;
     }

@@ -55,6 +55,10 @@ public:
 
 private:
     bool IsPart(const ImportedProduct& product) const { return product.partIndex.has_value(); }
+    DocumentType TypeOf(const ImportedProduct& product) const
+    {
+        return IsPart(product) ? DocumentType::Part : DocumentType::Product;
+    }
     bool StorePart(std::size_t part, std::string& error);
     bool StoreProduct(std::size_t product, std::string& error);
     bool StoreDocument(Document& document, const std::string& path, std::string& error);
@@ -93,9 +97,8 @@ bool StepImport::NameDocuments(const std::string& folder, std::string_view baseN
         }
         const std::string_view own =
             ofPart == nullptr ? product.name : _assembly.parts[*product.partIndex].name;
-        const DocumentType type = ofPart == nullptr ? DocumentType::Product : DocumentType::Part;
-        const std::string file =
-            names.Give(isRoot && !baseName.empty() ? baseName : own, Document::TypeName(type));
+        const std::string file = names.Give(isRoot && !baseName.empty() ? baseName : own,
+                                            Document::TypeName(TypeOf(product)));
         const std::string path =
             AbsoluteDocumentPath((std::filesystem::path(folder) / file).string(), error);
         if (path.empty()) {
@@ -147,10 +150,12 @@ bool StepImport::StoreProduct(std::size_t product, std::string& error)
     root.Set("PartNumber", Boxed<std::string>(name));
     for (const ImportedInstance& instance : imported.children) {
         Feature& node = document->Tree().Create(root.Kind(), &root);
-        const std::string used = StorableName(_assembly.products[instance.product].name);
+        const ImportedProduct& child = _assembly.products[instance.product];
+        const std::string used = StorableName(child.name);
         node.SetAlias(instance.name.empty() ? used : StorableName(instance.name));
         node.Set("PartNumber", Boxed<std::string>(used));
-        node.Set("Document", Boxed<DocumentLink>(DocumentLink{_productPaths[instance.product]}));
+        node.Set("Document",
+                 Boxed<DocumentLink>(DocumentLink{_productPaths[instance.product], TypeOf(child)}));
         node.Set("Placement", Boxed<DoubleList>(DoubleList(instance.placement.begin(),
                                                            instance.placement.end())));
     }

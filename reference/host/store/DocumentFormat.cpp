@@ -9,7 +9,7 @@ const system::Schema& DocumentSchema()
     static const char kText[] =
 #include "host/store/schema.sql.inc"
         ;
-    static const system::Schema schema(kText);
+    static const system::Schema schema(kText, kApplicationId);
     return schema;
 }
 

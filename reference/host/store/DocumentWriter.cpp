@@ -68,12 +68,8 @@ bool DocumentWriter::Begin(std::string_view path, DocumentKind kind, int dataVer
 
 bool DocumentWriter::Prepare(std::string& reason)
 {
-    return _database.OpenForWriting(_file.File(), kApplicationId, _dataVersion, reason) &&
-           DocumentSchema().Create(_database, reason) &&
-           _insertLink.Prepare(_database, "INSERT INTO link VALUES (?1, ?2, ?3)", reason) &&
-           _insertGeometry.Prepare(_database, "INSERT INTO geometry VALUES (?1, ?2, ?3, ?4)",
-                                   reason) &&
-           _features.Attach(_database, reason);
+    return DocumentSchema().Create(_file.File(), _dataVersion, reason) &&
+           _database.OpenForWriting(_file.File(), reason) && _features.Attach(_database, reason);
 }
 
 std::optional<NameIndex> DocumentWriter::Intern(Names& names, AddName add, std::string_view name)
@@ -105,6 +101,9 @@ bool DocumentWriter::AddLink(const LinkRow& link)
     if (!Usable()) return false;
     std::string reason;
     if (!_check.AddLink(link, reason)) return Refuse(reason);
+    if (!_insertLink.PrepareOnce(_database, "INSERT INTO link VALUES (?1, ?2, ?3)", reason)) {
+        return FailWriting(reason);
+    }
     _insertLink.Bind(1, link.id);
     _insertLink.Bind(2, NameOf(link.kind));
     _insertLink.Bind(3, link.path);
@@ -122,6 +121,10 @@ bool DocumentWriter::AddGeometry(Id id, Bytes bytes)
     const system::Digest digest = system::DigestOf(bytes);
     std::string reason;
     if (!_check.AddGeometry(id, size, digest, reason)) return Refuse(reason);
+    if (!_insertGeometry.PrepareOnce(_database, "INSERT INTO geometry VALUES (?1, ?2, ?3, ?4)",
+                                     reason)) {
+        return FailWriting(reason);
+    }
     _insertGeometry.Bind(1, id);
     _insertGeometry.Bind(2, size);
     _insertGeometry.Bind(3, Bytes(digest));

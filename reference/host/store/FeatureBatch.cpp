@@ -139,14 +139,15 @@ struct FeatureBatchTable
 
 namespace {
 
-constexpr std::size_t kMostRows = 512;
-constexpr std::size_t kMostBytes = std::size_t{256} * 1024;
+constexpr std::size_t kMostRows = 128;
+constexpr std::size_t kMostBytes = std::size_t{32} * 1024;
 
 }  // namespace
 
 bool FeatureBatch::Attach(system::Database& database, std::string& reason)
 {
     Detach();
+    _waiting.reserve(kMostRows);
     if (sqlite3_create_module_v2(database.Connection(), "waiting", FeatureBatchTable::Module(),
                                  this, nullptr) != SQLITE_OK) {
         reason = database.Reason();

@@ -159,8 +159,8 @@ bool AtomicFile::Commit(std::string& error)
     if (synchronized < 0) return Fail("putting the new file on the disk", -synchronized, error);
     // The file stays open, and with it the lock that keeps it, until it has its name. Closing it
     // can report nothing that synchronising it did not.
-    const auto& rename = _existing == Existing::Keep ? operations.renameToNew : operations.rename;
-    const int renamed = rename(_temporary, _target);
+    const int renamed = _existing == Existing::Keep ? RenameToNew(_temporary, _target)
+                                                    : operations.rename(_temporary, _target);
     if (renamed == -EEXIST && _existing == Existing::Keep) {
         error = ThereIsOne(_target);
         Discard();

@@ -56,30 +56,35 @@ bool Database::OpenForReading(int file, std::string& reason)
             return false;
         }
     }
-    return Execute(
-        "PRAGMA query_only = ON; PRAGMA cell_size_check = ON; PRAGMA temp_store = MEMORY", reason);
+    // Nothing that reads the schema: Schema::Matches limits its texts before.
+    return Execute("PRAGMA cell_size_check = ON", reason);
 }
 
-bool Database::OpenForWriting(int file, int applicationId, int version, std::string& reason)
+bool Database::OpenForWriting(int file, std::string& reason)
 {
     const char* vfs = DescriptorVfs();
     if (vfs == nullptr) {
         reason = "SQLite cannot be initialised";
         return false;
     }
-    const std::string pragmas = fmt::format(
-        "PRAGMA encoding = 'UTF-8'; PRAGMA page_size = 16384; PRAGMA auto_vacuum = NONE;"
-        "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = MEMORY; PRAGMA synchronous = OFF;"
-        "PRAGMA temp_store = MEMORY; PRAGMA cache_size = -65536; PRAGMA secure_delete = OFF;"
-        "PRAGMA application_id = {}; PRAGMA user_version = {}; BEGIN EXCLUSIVE",
-        applicationId, version);
     return Open(DescriptorName(file), SQLITE_OPEN_READWRITE, vfs, reason) &&
-           Execute(pragmas.c_str(), reason);
+           Execute("PRAGMA journal_mode = MEMORY; BEGIN EXCLUSIVE", reason);
 }
 
 bool Database::OpenInMemory(std::string& reason)
 {
     return Open(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_MEMORY, nullptr, reason);
+}
+
+bool Database::CopyTo(std::vector<std::byte>& file) const
+{
+    sqlite3_int64 size = 0;
+    unsigned char* bytes = sqlite3_serialize(Connection(), "main", &size, 0);
+    if (bytes == nullptr) return false;
+    const auto* start = reinterpret_cast<const std::byte*>(bytes);
+    file.assign(start, start + size);
+    sqlite3_free(bytes);
+    return true;
 }
 
 bool Database::Execute(const char* sql, std::string& reason)

@@ -10,6 +10,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vex::system {
 
@@ -21,12 +22,16 @@ public:
     /// it is executed, and SQLite's limits are low. False with the reason.
     bool OpenForReading(int file, std::string& reason);
 
-    /// Connects for writing a new file (empty now) in one transaction, which is begun here and
-    /// ended by Commit. The rollback journal is kept in memory; the caller synchronises the file.
-    bool OpenForWriting(int file, int applicationId, int version, std::string& reason);
+    /// Connects for writing a new file (from Schema::Create) in one transaction, which is begun
+    /// here and ended by Commit. Nothing can be rolled back: after a failure the file is of no use.
+    /// The caller synchronises it.
+    bool OpenForWriting(int file, std::string& reason);
 
     /// Connects to a new database in memory. False with the reason.
     bool OpenInMemory(std::string& reason);
+
+    /// Gives the bytes of the file that a database in memory would be. False without memory.
+    bool CopyTo(std::vector<std::byte>& file) const;
 
     /// Executes statements without results. False with the reason.
     bool Execute(const char* sql, std::string& reason);
@@ -58,6 +63,12 @@ class Statement
 public:
     /// False with the reason.
     bool Prepare(Database& database, const char* sql, std::string& reason);
+
+    /// The same when it is not prepared yet: for statements that few files need.
+    bool PrepareOnce(Database& database, const char* sql, std::string& reason)
+    {
+        return _statement != nullptr || Prepare(database, sql, reason);
+    }
 
     void Bind(int place, std::int64_t number)
     {

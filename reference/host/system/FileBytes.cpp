@@ -5,9 +5,9 @@
 #include "host/system/FileOperations.h"
 #include "host/system/MessageTexts.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdint>
-#include <vector>
 
 #include <unistd.h>
 
@@ -20,7 +20,7 @@ template <class Take>
 int Read(int file, FileSummary& summary, Take&& take)
 {
     DigestStream digest;
-    std::vector<char> piece(std::size_t{1} << 16U);
+    std::array<char, 32'768> piece;  // not from the heap, whose new pages cost more than reading
     for (summary.size = 0;;) {
         const ssize_t size = ::pread(file, piece.data(), piece.size(), summary.size);
         if (size < 0 && errno == EINTR) continue;

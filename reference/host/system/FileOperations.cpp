@@ -49,16 +49,6 @@ int SynchronizeFolder(int folder)
     return answer == -EINVAL ? 0 : answer;
 }
 
-int RenameToNew(const std::string& from, const std::string& to)
-{
-    const int answer =
-        Result(::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE));
-    if (answer != -EINVAL && answer != -ENOSYS) return answer;
-    // The file system has no such operation. A link never takes another file's name either.
-    const int linked = Result(::link(from.c_str(), to.c_str()));
-    return linked < 0 ? linked : Result(::unlink(from.c_str()));
-}
-
 }  // namespace
 
 FileOperations SystemFileOperations()
@@ -73,7 +63,12 @@ FileOperations SystemFileOperations()
     operations.rename = [](const std::string& from, const std::string& to) {
         return Result(std::rename(from.c_str(), to.c_str()));
     };
-    operations.renameToNew = RenameToNew;
+    operations.renameToNew = [](const std::string& from, const std::string& to) {
+        return Result(::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE));
+    };
+    operations.link = [](const std::string& from, const std::string& to) {
+        return Result(::link(from.c_str(), to.c_str()));
+    };
     operations.synchronizeFolder = SynchronizeFolder;
     operations.remove = [](const std::string& path) { return Result(::unlink(path.c_str())); };
     return operations;
@@ -83,6 +78,17 @@ FileOperations& CurrentFileOperations()
 {
     static FileOperations operations = SystemFileOperations();
     return operations;
+}
+
+int RenameToNew(const std::string& from, const std::string& to)
+{
+    const FileOperations& operations = CurrentFileOperations();
+    const int renamed = operations.renameToNew(from, to);
+    if (renamed != -EINVAL && renamed != -ENOSYS) return renamed;
+    const int linked = operations.link(from, to);
+    // The file has its name. A first name that stays is that of a file which nobody holds.
+    if (linked == 0) operations.remove(from);
+    return linked;
 }
 
 }  // namespace vex::system

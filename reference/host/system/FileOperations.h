@@ -26,7 +26,10 @@ struct FileOperations
     /// Gives the file `from` the name `to`, in place of a file of that name. Answers 0.
     std::function<int(const std::string& from, const std::string& to)> rename;
     /// Gives the file `from` the name `to`, when nothing has it: answers -EEXIST otherwise, else 0.
+    /// File systems that have no such operation answer -EINVAL or -ENOSYS: see RenameToNew.
     std::function<int(const std::string& from, const std::string& to)> renameToNew;
+    /// Gives the file `from` the name `to` besides its own, as renameToNew. Answers 0.
+    std::function<int(const std::string& from, const std::string& to)> link;
     /// Puts the names in the open folder on the disk. Answers 0.
     std::function<int(int folder)> synchronizeFolder;
     /// Removes the file `path`. Answers 0.
@@ -39,5 +42,10 @@ VEX_EXPORT FileOperations SystemFileOperations();
 /// The table in force in this process: at first the operating system's. It may be changed only
 /// while no file is being replaced.
 VEX_EXPORT FileOperations& CurrentFileOperations();
+
+/// Gives the file `from` the name `to`, when nothing has it, on any file system: by the operation
+/// made for that, else by a second name, of which the first one is then taken away. Answers as
+/// renameToNew.
+VEX_EXPORT int RenameToNew(const std::string& from, const std::string& to);
 
 }  // namespace vex::system

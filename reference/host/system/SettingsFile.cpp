@@ -26,7 +26,7 @@ const Schema& SettingsSchema()
     static const char kText[] =
 #include "host/system/settings.sql.inc"
         ;
-    static const Schema schema(kText);
+    static const Schema schema(kText, kKind.applicationId);
     return schema;
 }
 
@@ -94,8 +94,7 @@ bool WriteRows(Database& database, const Settings& settings, std::string& reason
 {
     Statement setting;
     Statement repository;
-    if (!SettingsSchema().Create(database, reason) ||
-        !setting.Prepare(database, "INSERT INTO setting VALUES (?1, ?2)", reason) ||
+    if (!setting.Prepare(database, "INSERT INTO setting VALUES (?1, ?2)", reason) ||
         !repository.Prepare(database, "INSERT INTO repository VALUES (?1, ?2)", reason)) {
         return false;
     }
@@ -143,8 +142,9 @@ bool WriteSettings(const std::string& path, const Settings& settings, std::strin
     if (!file.Begin(path, error)) return false;
     Database database;
     std::string reason;
-    if (!database.OpenForWriting(file.File(), kKind.applicationId, kKind.newestVersion, reason) ||
-        !WriteRows(database, settings, reason) || !database.Commit(reason)) {
+    if (!SettingsSchema().Create(file.File(), kKind.newestVersion, reason) ||
+        !database.OpenForWriting(file.File(), reason) || !WriteRows(database, settings, reason) ||
+        !database.Commit(reason)) {
         error = AtomicFile::Failure(path, "writing the settings", reason);
         return false;
     }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <string>
 
 namespace vex::topology {
 namespace {
@@ -18,22 +19,6 @@ void Limit(__rlimit_resource resource, rlim_t most)
     ::setrlimit(resource, &limit);
 }
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kLimitsMemory = false;
-#elif defined(__has_feature)
-constexpr bool kLimitsMemory = !__has_feature(address_sanitizer);
-#else
-constexpr bool kLimitsMemory = true;
-#endif
-
-// Of this process, which at first is as large as its parent.
-std::size_t AddressSpace()
-{
-    std::size_t pages = 0;
-    std::ifstream("/proc/self/statm") >> pages;
-    return pages * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
-}
-
 }  // namespace
 
 void Obey(const ChildLimits& limits)
@@ -42,9 +27,15 @@ void Obey(const ChildLimits& limits)
     if (limits.processorSeconds > 0) {
         Limit(RLIMIT_CPU, static_cast<rlim_t>(limits.processorSeconds));
     }
-    if (kLimitsMemory && limits.bytes > 0) {
-        Limit(RLIMIT_AS, AddressSpace() + limits.bytes);
-    }
+}
+
+std::size_t MemoryOf(pid_t process)
+{
+    std::size_t addressed = 0;
+    std::size_t used = 0;
+    std::size_t ofFiles = 0;
+    std::ifstream("/proc/" + std::to_string(process) + "/statm") >> addressed >> used >> ofFiles;
+    return (used - std::min(used, ofFiles)) * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
 }
 
 }  // namespace vex::topology

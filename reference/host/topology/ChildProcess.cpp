@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Runs work in a child process. What the child says is frames on a pipe: a kind (one byte), a
 // length (8 bytes, the machine's own order), that many bytes. 'P' is a phase, 'W' a warning, 'R'
-// the result, 'E' an error; 'R' or 'E' is the last.
+// the result, 'E' an error, 'M' the end of memory; one of these three is the last.
 #include "host/topology/ChildProcess.h"
 
 #include "host/system/Descriptor.h"
@@ -12,14 +12,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstdint>
 #include <cstring>
 #include <exception>
+#include <limits>
 #include <new>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -80,8 +81,7 @@ void DetachFromParent(pid_t parent)
         const std::vector<std::byte> result = work({say('P'), say('W')});
         WriteFrame(pipe, 'R', result.data(), result.size());
     } catch (const std::bad_alloc&) {
-        constexpr std::string_view text = "it takes more memory than it may have";
-        WriteFrame(pipe, 'E', text.data(), text.size());
+        WriteFrame(pipe, 'M', nullptr, 0);
     } catch (const std::exception& failure) {
         WriteFrame(pipe, 'E', failure.what(), std::strlen(failure.what()));
     } catch (...) {
@@ -112,11 +112,12 @@ bool TakeFrames(std::vector<std::byte>& bytes, ChildOutcome& outcome)
             outcome.end = ChildOutcome::End::Failed;
             outcome.text = text;
         }
+        if (kind == 'M') outcome.end = ChildOutcome::End::OutOfMemory;
         if (kind == 'R') {
             outcome.end = ChildOutcome::End::Done;
             outcome.result.assign(data, data + length);
         }
-        last = kind == 'R' || kind == 'E';
+        last = kind == 'R' || kind == 'E' || kind == 'M';
         at += kFrameHead + length;
     }
     bytes.erase(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(at));
@@ -129,15 +130,24 @@ int MillisecondsUntil(Clock::time_point deadline)
     return left > 0 ? static_cast<int>(left) : 0;
 }
 
-// Reads until the last frame, the end of the pipe or the deadline.
-void Listen(int pipe, Clock::time_point deadline, ChildOutcome& outcome)
+// Reads until the last frame, the end of the pipe or the deadline, or until the child has more
+// memory than `mostBytes`.
+void Listen(int pipe, pid_t child, Clock::time_point deadline, std::size_t mostBytes,
+            ChildOutcome& outcome)
 {
+    constexpr int millisecondsBetweenLooks = 50;
     std::vector<std::byte> bytes;
     std::vector<std::byte> block(1 << 16);
     for (;;) {
         pollfd waiting{pipe, POLLIN, 0};
-        const int ready = ::poll(&waiting, 1, MillisecondsUntil(deadline));
+        const int left = MillisecondsUntil(deadline);
+        const int ready = ::poll(&waiting, 1, std::min(left, millisecondsBetweenLooks));
         if (ready < 0 && errno == EINTR) continue;
+        if (MemoryOf(child) > mostBytes) {
+            outcome.end = ChildOutcome::End::OutOfMemory;
+            return;
+        }
+        if (ready == 0 && left > millisecondsBetweenLooks) continue;
         if (ready == 0) {
             outcome.end = ChildOutcome::End::TimedOut;
             return;
@@ -191,6 +201,8 @@ ChildOutcome RunInChild(const ChildWork& work, const ChildLimits& limits)
     const Clock::time_point deadline = Clock::now() + std::chrono::seconds(limits.seconds);
     auto [listening, speaking] = MakePipe();
     const pid_t parent = ::getpid();
+    const std::size_t mostBytes = limits.bytes == 0 ? std::numeric_limits<std::size_t>::max()
+                                                    : MemoryOf(parent) + limits.bytes;
     const pid_t child = ::fork();
     if (child == 0) {
         listening.Close();
@@ -204,7 +216,7 @@ ChildOutcome RunInChild(const ChildWork& work, const ChildLimits& limits)
     ChildOutcome outcome;
     std::exception_ptr thrown;
     try {
-        Listen(listening.Number(), deadline, outcome);
+        Listen(listening.Number(), child, deadline, mostBytes, outcome);
     } catch (...) {
         thrown = std::current_exception();  // memory ran out: the child is ended all the same
     }

@@ -25,10 +25,11 @@ using ChildWork = std::function<std::vector<std::byte>(const ChildReport&)>;
 struct ChildOutcome
 {
     enum class End {
-        Done,      // `result` is what the work returned
-        Failed,    // the work threw a std::exception, `text` is what it said
-        Broken,    // the child ended before the work did, `text` tells how
-        TimedOut,  // the work took too long, and the child was ended
+        Done,         // `result` is what the work returned
+        Failed,       // the work threw a std::exception, `text` is what it said
+        Broken,       // the child ended before the work did, `text` tells how
+        TimedOut,     // the work took too long, and the child was ended
+        OutOfMemory,  // the work took too much memory, or was refused some, and the child was ended
     };
     End end = End::Broken;
     std::vector<std::byte> result;

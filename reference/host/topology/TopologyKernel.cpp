@@ -87,6 +87,9 @@ void TryOut(std::span<const std::byte> bytes)
                                      outcome.text + ")");
         case ChildOutcome::End::TimedOut:
             throw std::runtime_error("the geometry kernel does not get done with the bytes");
+        case ChildOutcome::End::OutOfMemory:
+            throw std::runtime_error(
+                "the geometry kernel takes more memory for the bytes than it may have");
     }
 }
 

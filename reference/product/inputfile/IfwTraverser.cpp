@@ -116,6 +116,18 @@ HRESULT Write(std::string_view path, const VEXListValVEXBaseUnknown_var& list)
     return ReplaceFile(path, text);
 }
 
+/// What is thrown is told as any refusal is. That takes memory: the want of it is for the caller.
+HRESULT WriteOrTell(std::string_view path, const VEXListValVEXBaseUnknown_var& list)
+{
+    try {
+        return Write(path, list);
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (const std::exception& exception) {
+        return Refuse(E_FAIL, exception.what());
+    }
+}
+
 }  // namespace
 
 IfwTraverser::IfwTraverser() : Component(vex::ComponentTypes::Instance().Require("HLXIfwTraverser"))
@@ -125,13 +137,11 @@ HRESULT IfwTraverser::WriteInputFile(const VEXUnicodeString& path,
                                      const VEXListValVEXBaseUnknown_var& cases) const
 {
     try {
-        return Write(path.View(), cases);
+        return WriteOrTell(path.View(), cases);
     } catch (const std::bad_alloc&) {
         return vex::Refuse(E_OUTOFMEMORY,
                            "HLXIIfwTraverser::WriteInputFile: there is not enough memory for the "
                            "text; nothing was written");
-    } catch (const std::exception& exception) {
-        return vex::Refuse(E_FAIL, exception.what());
     }
 }
 

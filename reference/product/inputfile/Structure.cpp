@@ -8,7 +8,10 @@
 #include "product/inputfile/UniqueNames.h"
 
 #include <algorithm>
+#include <map>
+#include <optional>
 #include <unordered_map>
+#include <utility>
 
 namespace hlx {
 
@@ -68,7 +71,7 @@ private:
     }
     bool ReadLinked(Document& document);
     bool Visit(const Feature& node, const Level& parent, std::vector<Level>& levels);
-    Document* Open(const std::string& path, std::string& reason);
+    Document* Open(const vex::DocumentLink& link, std::string& reason);
     bool Enter(Document& document, std::string name, const Placement& placement,
                std::string_view partNumber, std::vector<Level>& levels);
     bool Push(Level level, std::vector<Level>& levels);
@@ -79,7 +82,7 @@ private:
     std::string& _error;
     std::size_t _nodes = 0;
     std::size_t _bytesOfNames = 0;
-    std::unordered_map<std::string, Document*> _documents;
+    std::map<std::pair<std::string, std::optional<DocumentType>>, Document*> _documents;
     std::unordered_map<const Document*, std::size_t> _parts;
     UniqueNames _partNames;
     UniqueNames _instanceNames;
@@ -103,9 +106,8 @@ bool StructureReader::Read(Document& analysis)
                         "analysis anew");
         }
         // An analysis may be linked to another one, whose results it uses: that is no structure.
-        if (document->DocType() != DocumentType::Analysis && !ReadLinked(*document)) {
-            return false;
-        }
+        const bool isStructure = document->DocType() != DocumentType::Analysis;
+        if (isStructure && !ReadLinked(*document)) return false;
     }
     return true;
 }
@@ -124,17 +126,13 @@ bool StructureReader::ReadLinked(Document& document)
         }
         const Feature& node = *level.next;
         level.next = node.NextSibling();
-        if (!node.Kind().IsKindOf("VEXProductNode")) {
-            continue;
-        }
+        if (!node.Kind().IsKindOf("VEXProductNode")) continue;
         if (++_nodes > mostNodes) {
             return Fail(
                 "the product structure has more than a million nodes; link the analysis "
                 "to a smaller product");
         }
-        if (!Visit(node, level, levels)) {
-            return false;
-        }
+        if (!Visit(node, level, levels)) return false;
     }
     return true;
 }
@@ -143,15 +141,14 @@ bool StructureReader::Visit(const Feature& node, const Level& parent, std::vecto
 {
     const std::string& partNumber = node.GetAs<std::string>("PartNumber");
     const auto& numbers = node.GetAs<vex::DoubleList>("Placement");
-    const std::string& path = node.GetAs<vex::DocumentLink>("Document").path;
+    const auto& link = node.GetAs<vex::DocumentLink>("Document");
+    const std::string& path = link.path;
     std::string name = parent.name;
     if (!parent.areRoots) {
         name += name.empty() ? "" : "/";
         name += node.Alias().empty() ? std::string_view(partNumber) : node.Alias();
     }
-    if (!CountName(name.size())) {
-        return false;
-    }
+    if (!CountName(name.size())) return false;
     Placement own{};
     if (numbers.size() != own.size()) {
         return Fail("the placement of " + Quoted(name) + " has " + std::to_string(numbers.size()) +
@@ -165,7 +162,7 @@ bool StructureReader::Visit(const Feature& node, const Level& parent, std::vecto
                     levels);
     }
     std::string reason;
-    Document* const document = Open(path, reason);
+    Document* const document = Open(link, reason);
     if (document == nullptr) {
         return Fail("the document " + Quoted(path) + " of " + Quoted(name) + " cannot be opened (" +
                     reason + "); put it back in its place or correct the product document " +
@@ -175,11 +172,11 @@ bool StructureReader::Visit(const Feature& node, const Level& parent, std::vecto
 }
 
 // A part may be used a thousand times: it is looked for once.
-Document* StructureReader::Open(const std::string& path, std::string& reason)
+Document* StructureReader::Open(const vex::DocumentLink& link, std::string& reason)
 {
-    const auto [known, isNew] = _documents.emplace(path, nullptr);
+    const auto [known, isNew] = _documents.try_emplace({link.path, link.kind}, nullptr);
     if (isNew) {
-        known->second = vex::DocumentSession::Instance().OpenLinked(path, reason);
+        known->second = vex::DocumentSession::Instance().OpenLinked(link, reason);
     }
     return known->second;
 }
@@ -195,9 +192,7 @@ bool StructureReader::Enter(Document& document, std::string name, const Placemen
     }
     if (document.DocType() == DocumentType::Part) {
         const std::size_t part = PartOf(document, partNumber);
-        if (!CountName(_structure.parts[part].size())) {
-            return false;
-        }
+        if (!CountName(_structure.parts[part].size())) return false;
         const std::string& wish = name.empty() ? _structure.parts[part] + ".1" : name;
         _structure.instances.push_back({_instanceNames.Make(wish), part, placement});
         return true;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // Links from an analysis document to others.
+#include "host/feature/DocumentSession.h"
 #include "reference/analysis/AnalysisFixture.h"
 #include "support/Capture.h"
 #include "support/TemporaryFolder.h"
 
 #include <filesystem>
+#include <vector>
 
 namespace {
 
@@ -13,6 +15,18 @@ using hlxtest::TemporaryFolder;
 class Links : public hlxtest::AnalysisTest
 {
 protected:
+    /// Closes what a test opened besides the analysis.
+    ~Links() override
+    {
+        const std::vector<vex::Document*> open = vex::DocumentSession::Instance().Documents();
+        for (const vex::Document* const one : open) {
+            if (vex::DocumentSession::Instance().IsOpen(one) &&
+                one->AsVEXDocument() != document.Get()) {
+                VEXDocumentServices::Remove(*one->AsVEXDocument(), 1);
+            }
+        }
+    }
+
     VEXISamDocumentManager_var DocumentManager()
     {
         VEXISamDocumentManager_var manager;
@@ -55,6 +69,27 @@ TEST_F(Links, KeepTheirOrderAndCountOnce)
     ASSERT_EQ(documents.Size(), 2);
     EXPECT_EQ(documents[1], product);
     EXPECT_EQ(documents[2], part);
+}
+
+TEST_F(Links, ToADocumentThatBecameOneOfAnotherKindAreMadeAnew)
+{
+    const std::string path = folder.File("p.VEXProduct");
+    VEXDocument* const product = Store("VEXProduct", path);
+    ASSERT_EQ(DocumentManager()->AddLink(product), S_OK);
+    ASSERT_EQ(VEXDocumentServices::Remove(*product, 1), S_OK);
+    std::filesystem::remove(path);
+    VEXDocument* const part = Store("VEXPart", path);
+    VEXListPtrVEXDocument documents;
+    const std::string said = hlxtest::StandardErrorOf([&] { documents = Linked(); });
+    ASSERT_EQ(documents.Size(), 1);
+    EXPECT_EQ(documents[1], nullptr);
+    EXPECT_EQ(said, "vex: linked document: '" + path +
+                        "': it is a document of type VEXPart, and the link to it says VEXProduct. "
+                        "Put that one back in its place, or link to this one anew.\n");
+    EXPECT_EQ(DocumentManager()->AddLink(part), S_OK);
+    documents = Linked();
+    ASSERT_EQ(documents.Size(), 1);
+    EXPECT_EQ(documents[1], part);
 }
 
 TEST_F(Links, RefuseWhatCannotBeLinkedTo)

@@ -47,7 +47,7 @@ protected:
             Open(folder.File(name));
         }
         for (const std::string& name : linked) {
-            ASSERT_NE(session.OpenLinked(folder.File(name), error), nullptr) << error;
+            ASSERT_NE(session.OpenLinked({folder.File(name)}, error), nullptr) << error;
         }
     }
 
@@ -121,13 +121,32 @@ TEST_F(DocumentSessionTest, AReadOnlyDocumentIsNotSavedUnlessUnderAnotherPath)
     EXPECT_THAT(error, HasSubstr("opened read-only"));
     EXPECT_EQ(session.SaveAs(document, path, "", true, error), E_ACCESSDENIED);
     EXPECT_EQ(hlxtest::ReadFile(path), before);
-    EXPECT_EQ(session.OpenLinked(path, error), &document);
+    EXPECT_EQ(session.OpenLinked({path}, error), &document);
     EXPECT_TRUE(document.IsReadOnly());
 
     EXPECT_EQ(session.SaveAs(document, folder.File("b.VEXPart"), "", false, error), S_OK) << error;
     EXPECT_EQ(document.Path(), folder.File("b.VEXPart"));
     EXPECT_EQ(session.Save(document, error), S_OK) << error;
     EXPECT_EQ(hlxtest::ReadFile(path), before);
+}
+
+TEST_F(DocumentSessionTest, ALinkLeadsToTheKindOfDocumentThatItSaysOnly)
+{
+    const std::string reason =
+        "'" + path +
+        "': it is a document of type VEXPart, and the link to it says VEXProduct. Put that one "
+        "back in its place, or link to this one anew.";
+    Document& document = StoreOpen(path);
+    EXPECT_EQ(session.OpenLinked({path, DocumentType::Part}, error), &document);
+    EXPECT_EQ(session.OpenLinked({path, DocumentType::Product}, error), nullptr);
+    EXPECT_EQ(error, reason);
+    EXPECT_EQ(Count(), 1U);
+    Remove(document);
+    error.clear();
+    EXPECT_EQ(session.OpenLinked({path, DocumentType::Product}, error), nullptr);
+    EXPECT_EQ(error, reason);
+    EXPECT_EQ(Count(), 0U) << "what the link does not say is not kept open";
+    EXPECT_NE(session.OpenLinked({path, DocumentType::Part}, error), nullptr);
 }
 
 TEST_F(DocumentSessionTest, OpeningAgainForSavingAllowsIt)

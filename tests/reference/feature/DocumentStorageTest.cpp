@@ -39,7 +39,8 @@ TEST_F(DocumentStorageTest, EverythingComesBackAsItWas)
     one.Set("Other", Reference{three.Id()});
     two.Set("Other", Reference{two.Id()});
     three.Set("Other", Reference{one.Id()});
-    two.Set("File", Boxed<DocumentLink>(DocumentLink{folder.File("sub/b.VEXPart")}));
+    two.Set("File",
+            Boxed<DocumentLink>(DocumentLink{folder.File("sub/b.VEXPart"), DocumentType::Part}));
     two.Set("Samples", Boxed<DoubleList>());
     two.Set("Rows", Boxed<DoubleTable>(DoubleTable{3, {1, 2, 3, 4, 5, 6}}));
     two.Set("Extra", std::numeric_limits<double>::denorm_min());

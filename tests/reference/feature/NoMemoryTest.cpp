@@ -2,9 +2,9 @@
 // Memory that runs out while a document is made, stored or opened: told like any other failure, and
 // nothing that was there is lost.
 #include "TestDocument.h"
-#include "durability/ChildProcess.h"
 #include "host/system/FileOperations.h"
 #include "host/system/SettingsStore.h"
+#include "support/ChildProcess.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -86,7 +86,7 @@ TEST_F(NoMemory, ToSaveUnderAnotherPath)
 TEST_F(NoMemory, ForANewDocument)
 {
     // In a child: what a type's documents have can be set, but not set back.
-    EXPECT_EQ(durabilitytest::InChild([&] {
+    EXPECT_EQ(hlxtest::InChild([&] {
                   // The libraries, which bring structures of their own, are there before ours.
                   EXPECT_TRUE(LateTypes::Instance().AreLoaded(error)) << error;
                   DocumentSession::SetStructure(DocumentType::Part,

@@ -3,6 +3,7 @@
 #include "StorageTest.h"
 
 #include <filesystem>
+#include <optional>
 #include <set>
 
 namespace {
@@ -25,6 +26,34 @@ TEST_F(StoredLinks, MoveWithTheirDocuments)
     const DocumentHolder read = Load(folder.File("deep/first/a.VEXPart"));
     EXPECT_EQ(read->Tree().Find(one.Id())->GetAs<DocumentLink>("File").path,
               folder.File("deep/parts/b.VEXPart"));
+}
+
+// A file may have any name: what kind of document it is stands in the link, also after a save while
+// nobody knows.
+TEST_F(StoredLinks, KeepTheKindOfTheirDocument)
+{
+    const std::string target = folder.File("parts/b.VEXPart");
+    const auto linkTo = [&](std::optional<DocumentType> kind) -> Feature& {
+        Feature& feature = Add(root);
+        feature.Set("File", Boxed<DocumentLink>(DocumentLink{target, kind}));
+        return feature;
+    };
+    const Feature& product = linkTo(DocumentType::Product);
+    const Feature& analysis = linkTo(DocumentType::Analysis);
+    const Feature& unsaid = linkTo({});
+    const DocumentHolder* now = &document;
+    DocumentHolder read;
+    for (int time = 1; time <= 2; ++time) {
+        ASSERT_TRUE(SaveDocument(**now, path, error)) << error;
+        read = Load(path);
+        now = &read;
+        const auto link = [&](const Feature& feature) {
+            return read->Tree().Find(feature.Id())->GetAs<DocumentLink>("File");
+        };
+        EXPECT_EQ(link(product), (DocumentLink{target, DocumentType::Product}));
+        EXPECT_EQ(link(analysis), (DocumentLink{target, DocumentType::Analysis}));
+        EXPECT_EQ(link(unsaid), (DocumentLink{target, DocumentType::Part})) << "as the file ends";
+    }
 }
 
 // A long path that many features link to is in a small file once, and so in memory.

@@ -236,6 +236,22 @@ TEST_F(InputFileStructure, AMissingLinkedDocumentIsRefused)
         << reason;
 }
 
+TEST_F(InputFileStructure, ADocumentOfAnotherKindThanTheNodeSaysIsRefused)
+{
+    const std::string bolt = Part("bolt", "Bolt");
+    Feature& root = Product();
+    Use(root, "Bolt.1", "M6", bolt);
+    Use(root, "Bolt.2", "M6", bolt)
+        .Set("Document", vex::Boxed<vex::DocumentLink>({bolt, vex::DocumentType::Product}));
+    Link(SaveProduct(root, "top"));
+    const std::string reason = Refusal();
+    EXPECT_NE(reason.find("bolt.VEXPart' of 'Bolt.2' cannot be opened ('" + bolt +
+                          "': it is a document of type VEXPart, and the link to it says "
+                          "VEXProduct. "),
+              std::string::npos)
+        << reason;
+}
+
 TEST_F(InputFileStructure, AMissingDocumentOfANodeIsRefused)
 {
     Feature& root = Product();

@@ -2,13 +2,14 @@
 // What the writer refuses, and that nothing is lost then.
 #include "host/system/FileOperations.h"
 #include "reference/inputfile/InputFileFixture.h"
+#include "support/ChildProcess.h"
 #include "support/Platform.h"
 
 #include <cerrno>
 #include <cstdlib>
-#include <fstream>
+#include <new>
+#include <stdexcept>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -42,16 +43,12 @@ TEST_F(InputFileRefusal, IsAnsweredAlsoWhereNobodyListens)
     const HLXIIfwTraverser_var traverser = VEXShare(
         VEXCreateExternalObject("HLXIfwTraverser", nullptr, "HLXIfwExportTraverser", nullptr));
     ASSERT_TRUE(traverser);
-    const pid_t child = ::fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
+    const int end = hlxtest::InChild([&] {
         ::close(STDERR_FILENO);
         VEXListValVEXBaseUnknown_var none;
-        ::_exit(traverser->WriteInputFile(VEXUnicodeString(path), none) == E_INVALIDARG ? 0 : 1);
-    }
-    int status = -1;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
+        EXPECT_EQ(traverser->WriteInputFile(VEXUnicodeString(path), none), E_INVALIDARG);
+    });
+    EXPECT_EQ(end, 0);
 }
 
 TEST_F(InputFileRefusal, AnEmptyEntry)
@@ -133,6 +130,25 @@ TEST_F(InputFileRefusal, AFullDisk)
         reason.find("case.inp': saving failed: writing the new file: No space left on device"),
         std::string::npos)
         << reason;
+}
+
+TEST_F(InputFileRefusal, WhatIsThrownMeanwhile)
+{
+    vex::system::FileOperations& operations = vex::system::CurrentFileOperations();
+    const vex::system::FileOperations before = operations;
+    operations.write = [](int, const void*, std::size_t, std::int64_t) -> int {
+        throw std::runtime_error("the disk is on fire");
+    };
+    const std::string reason = Refused({Entry(1)}, E_FAIL);
+    operations.write = [](int, const void*, std::size_t, std::int64_t) -> int {
+        throw std::bad_alloc();
+    };
+    const std::string noMemory = Refused({Entry(1)}, E_OUTOFMEMORY);
+    operations = before;
+    EXPECT_EQ(reason, "vex: HLXIIfwTraverser::WriteInputFile: the disk is on fire\n");
+    EXPECT_EQ(noMemory,
+              "vex: HLXIIfwTraverser::WriteInputFile: there is not enough memory for the text; "
+              "nothing was written\n");
 }
 
 /// In a process of its own: settings are read once.

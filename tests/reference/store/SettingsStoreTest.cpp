@@ -4,6 +4,7 @@
 
 #include "host/system/Descriptor.h"
 #include "reference/store/StoreFixture.h"
+#include "support/EnvironmentVariable.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -13,6 +14,7 @@ namespace vex::system {
 namespace {
 
 namespace fs = std::filesystem;
+using hlxtest::EnvironmentVariable;
 using store::test::FolderTest;
 using testing::HasSubstr;
 
@@ -123,50 +125,24 @@ TEST_F(SettingsStoreTest, TheFolderOfTheFileIsLockedNotThatOfALinkToIt)
     EXPECT_TRUE(fs::is_symlink(In("links/s.VEXSettings")));
 }
 
-// Sets a variable of the environment, none for null, and puts it back at its end.
-class Variable
-{
-public:
-    Variable(const char* name, const char* value) : _name(name)
-    {
-        if (const char* kept = std::getenv(name)) _kept = kept;
-        Put(value);
-    }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    ~Variable() { Put(_kept ? _kept->c_str() : nullptr); }
-
-private:
-    void Put(const char* value)
-    {
-        if (value != nullptr) {
-            ::setenv(_name, value, 1);
-        } else {
-            ::unsetenv(_name);
-        }
-    }
-    const char* _name;
-    std::optional<std::string> _kept;
-};
-
 TEST_F(SettingsStoreTest, DefaultPlace)
 {
     {
-        const Variable own("VEX_SETTINGS", "s.VEXSettings");
+        const EnvironmentVariable own("VEX_SETTINGS", "s.VEXSettings");
         EXPECT_EQ(SettingsStore::DefaultPath(error), "s.VEXSettings");
     }
-    const Variable own("VEX_SETTINGS", "");
-    const Variable home("HOME", "/home/me");
+    const EnvironmentVariable own("VEX_SETTINGS", "");
+    const EnvironmentVariable home("HOME", "/home/me");
     {
-        const Variable xdg("XDG_CONFIG_HOME", "/cfg");
+        const EnvironmentVariable xdg("XDG_CONFIG_HOME", "/cfg");
         EXPECT_EQ(SettingsStore::DefaultPath(error), "/cfg/HLX/settings.VEXSettings");
     }
     {
-        const Variable xdg("XDG_CONFIG_HOME", "relative");
+        const EnvironmentVariable xdg("XDG_CONFIG_HOME", "relative");
         EXPECT_EQ(SettingsStore::DefaultPath(error), "/home/me/.config/HLX/settings.VEXSettings");
     }
-    const Variable xdg("XDG_CONFIG_HOME", nullptr);
-    const Variable none("HOME", nullptr);
+    const EnvironmentVariable xdg("XDG_CONFIG_HOME", nullptr);
+    const EnvironmentVariable none("HOME", nullptr);
     EXPECT_EQ(SettingsStore::DefaultPath(error), "");
     EXPECT_THAT(error, HasSubstr("VEX_SETTINGS"));
 }

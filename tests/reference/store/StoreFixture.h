@@ -14,7 +14,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <optional>
 #include <string>
@@ -155,12 +154,7 @@ inline std::optional<Content> Load(const std::string& path, std::string& error,
 }
 
 using hlxtest::ReadFile;
-
-inline void WriteFile(const std::string& path, const std::string& bytes)
-{
-    fs::remove(path);  // file systems hurry to write a file that is emptied and filled again
-    std::ofstream(path, std::ios::binary) << bytes;
-}
+using hlxtest::WriteFile;
 
 /// Changes a database with SQL, as any program could.
 inline void ChangeBySql(const std::string& path, const std::string& sql)

@@ -14,6 +14,14 @@ inline const std::string kStepData = HLX_SOURCE_DIR "/tests/reference/topology/d
 inline const std::string kSample = HLX_SOURCE_DIR "/samples/bracket_assembly.step";
 inline const std::string kLibraries = HLX_BINARY_DIR "/lib";
 
+/// `text` with `to` in place of its first `from`; the test fails when there is none.
+inline std::string Replaced(std::string text, const std::string& from, const std::string& to)
+{
+    const std::size_t at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return at == std::string::npos ? text : text.replace(at, from.size(), to);
+}
+
 class KernelTest : public testing::Test
 {
 protected:

@@ -3,11 +3,11 @@
 #include "host/system/MessageTexts.h"
 #include "reference/topology/KernelFixture.h"
 
+#include "support/ChildProcess.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace hlxtest {
@@ -66,19 +66,13 @@ TEST_F(StepImport, KeepsTheStructureOfTheBracketAssembly)
 
 TEST_F(StepImport, NeedsNoStandardStream)
 {
-    const pid_t child = ::fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
+    const int end = InChild([&] {
         for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
             ::close(stream);
         }
-        ImportedAssembly assembly;
-        std::string error;
-        ::_exit(kernel->ReadStep(kSample, assembly, error) && assembly.parts.size() == 3 ? 0 : 1);
-    }
-    int status = -1;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
+        EXPECT_EQ(Import(kSample).parts.size(), 3U);
+    });
+    EXPECT_EQ(end, 0);
 }
 
 TEST_F(StepImport, TheTwoBoltsAreOneProductAtTwoPlaces)

@@ -12,7 +12,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace durabilitytest {
+namespace hlxtest {
 
 /// Starts `body` in a child. It ends with code 0, or with 1 when an expectation failed in it.
 inline pid_t StartChild(const std::function<void()>& body)
@@ -67,4 +67,4 @@ private:
     Value* _value;
 };
 
-}  // namespace durabilitytest
+}  // namespace hlxtest
