@@ -4,6 +4,7 @@
 
 #include "FuzzProcess.h"
 #include "host/feature/DocumentSession.h"
+#include "host/product/PartGeometry.h"
 #include "product/cases/AnalysisCaseBuilder.h"
 #include "product/steps/StepBuilder.h"
 #include "support/ResealedDocument.h"
@@ -111,9 +112,13 @@ std::string SampleProduct()
 std::string SamplePart()
 {
     Document& document = New("VEXPart");
-    FirstOf(document, "VEXPart")
-        .Set("Geometry", static_cast<std::int64_t>(
-                             document.AddGeometry(std::vector<std::byte>(60, std::byte{7}))));
+    Require(vex::GiveGeometry(document, std::vector<std::byte>(60, std::byte{7})),
+            "a part can have a geometry");
+    Feature& access = Add(FirstOf(document, "VEXBRepContainer"), "VEXBRepAccess", "");
+    access.Set("Part", vex::Reference{FirstOf(document, "VEXPart").Id()});
+    access.Set("Dimension", std::int64_t{2});
+    access.Set("Index", std::int64_t{1});
+    access.Set("Shape", Boxed<std::string>("0123456789abcdef0123456789abcdef"));
     return BytesOf(document);
 }
 

@@ -13,7 +13,7 @@ std::string SampleAnalysis();
 /// A product with a child that is a part of another document.
 std::string SampleProduct();
 
-/// A part with geometry (which no kernel would take for a shape).
+/// A part with geometry (which no kernel would take for a shape) and an access to a cell of it.
 std::string SamplePart();
 
 /// Puts beside them what they link to, as files. True.

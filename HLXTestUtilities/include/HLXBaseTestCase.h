@@ -14,8 +14,8 @@
 #pragma once
 
 #include "HLXIAnalysisCase.h"
+#include "VEXMechanicalPart.h"
 #include "VEXMetaClass.h"
-#include "VEXTopology.h"
 
 #include <cstdio>
 
@@ -135,6 +135,61 @@ protected:
     long AddAnalysisCase(unsigned char withElementBehavior,
                          HLXIAnalysisCase::analysisTypeEnum type);
 
+    // --- Part, body and cells: no message has an end of line ----------------------------------
+    //
+    // Each operation calls the one before it when what it needs is missing: any may come first once
+    // the root product is known.
+
+    /// Finds the product that the document is linked to: `_RootProduct`, empty when the first
+    /// linked document is a part.
+    /// @return the platform's result; E_FAIL when there is no linked document, the first one cannot
+    ///         be opened or has no root object
+    long InitializeRootProduct(VEXISamAnalysisManager_var manager);
+
+    /// Takes the child of the root product at `_PartIndex` as `_PartLink` and finds the document
+    /// of the first object below it that can be linked to: the part.
+    /// @param partDocument  receives it, not counted; null when that object has no document, else
+    ///                      left as it is on failure
+    /// @return S_OK; E_FAIL without a root product, without children or a part
+    long GetPartDocument(VEXDocument*& partDocument);
+
+    /// Finds the containers of the part's document: `_PartDocContainer`; a former one is released.
+    /// @return the platform's result, or that of GetPartDocument
+    long InitializeContainerOfPartDocument();
+
+    /// Finds the mechanical part feature: `_MechanicalPart`. Goes on after a failure, so that
+    /// several messages may appear.
+    /// @return negative after a failure on the way, also when `_MechanicalPart` was there already;
+    ///         E_FAIL without it
+    long InitializeMechanicalPart();
+
+    /// Finds the feature that carries the shape of the part's main body.
+    /// @param element  receives it
+    /// @return S_OK; that of InitializeMechanicalPart; E_FAIL
+    long GetGeometricalElement(VEXIGeometricalElement_var& element);
+
+    /// Finds the container of B-rep accesses of the part's document.
+    /// @param container  receives it with a reference added that the caller releases
+    /// @return the platform's result, or that of GetPartDocument
+    long GetBRepContainer(VEXIContainer*& container);
+
+    /// Finds the part's body: `_Body`.
+    /// @return S_OK; that of GetGeometricalElement; E_FAIL without a body: `_Body` is then empty
+    long InitializeBody();
+
+    /// Append all faces, edges or vertices of `_Body`, which owns them; without a body nothing, so
+    /// call InitializeBody first.
+    void GetFaceList(VEXListPtrVEXCell& cells);
+    void GetEdgeList(VEXListPtrVEXCell& cells);
+    void GetVertexList(VEXListPtrVEXCell& cells);
+
+    /// Append the first `count` faces of the body's first volume, edges of its first face, or
+    /// vertices of that face's first edge: fewer where there are fewer, one for a count below 1.
+    /// A body is found when there is none yet. What cannot be had is told, and nothing is appended.
+    void InitializeFaceSupportByIteration(VEXListPtrVEXCell& cells, int count);
+    void InitializeEdgeSupportByIteration(VEXListPtrVEXCell& cells, int count);
+    void InitializeVertexSupportByIteration(VEXListPtrVEXCell& cells, int count);
+
     // --- Timing log: CreateTimeLoggingFile, StartTimer, StopTimer, once a log -----------------
 
     /// Opens NAME_SYSTEM_DAY_MONTH_YEAR.txt in the output directory, writes its head and prints its
@@ -235,5 +290,9 @@ public:
     static VEXBaseUnknown* CreateItself();
 
 private:
+    long FindPartDocContainer(const VEXDocument& partDocument);
+    void GetCellsOfDimension(VEXListPtrVEXCell& cells, int count, int dimension);
+    void GetLowerCell(VEXListPtrVEXCell& cells, VEXCell*& cell, int count, int level);
+
     static VEXMetaClass* meta_object;
 };

@@ -9,6 +9,7 @@
 #include "product/catalog/CatalogFile.h"
 #include "product/conditions/LoadFactory.h"
 #include "product/settings/GeneralSettingController.h"
+#include "product/steps/StepContainerFactory.h"
 
 namespace hlx {
 
@@ -20,6 +21,7 @@ constexpr VEXInterfaceRow analysisCase[] = {InterfaceRow<AnalysisCaseAdapter>()}
 constexpr VEXInterfaceRow analysisCaseFactory[] = {InterfaceRow<AnalysisCaseFactory>()};
 constexpr VEXInterfaceRow elementBehaviorFactory[] = {InterfaceRow<ElementBehaviorFactory>()};
 constexpr VEXInterfaceRow loadFactory[] = {InterfaceRow<LoadFactory>()};
+constexpr VEXInterfaceRow step[] = {InterfaceRow<StepContainerFactory>()};
 constexpr VEXInterfaceRow settingController[] = {InterfaceRow<GeneralSettingAdapter>(),
                                                  InterfaceRow<SettingRepositoryAdapter>()};
 
@@ -35,7 +37,7 @@ constexpr VEXComponentRow components[] = {
     {"HLXHacAnalysisCaseLT", "VEXSamAnalysisCase", analysisCase, nullptr},
     {"HLXHacSimHistLT", "VEXSamAnalysisObject", {}, nullptr},
     {"HLXHacSolutionLT", "VEXSamAnalysisObject", {}, nullptr},
-    {"HLXStepLT", "VEXSamAnalysisSet", {}, nullptr},
+    {"HLXStepLT", "VEXSamAnalysisSet", step, nullptr},
     {"HLXContainerLT", "VEXSamAnalysisObject", {}, nullptr},
     // Factories and services.
     {"HLXHacAnalysisCaseFact", nullptr, analysisCaseFactory, MakeService<"HLXHacAnalysisCaseFact">},

@@ -24,6 +24,12 @@ public:
     /// @return S_OK, also when there is none; E_INVALIDARG for no open analysis document; E_FAIL
     static HRESULT GetAllAnalysisCases(VEXListValVEXBaseUnknown_var& cases, VEXDocument* document);
 
+    /// Appends the sets of a late type, or of one that extends it, of all cases of the document, in
+    /// order; an empty text: all of them. A step is a set.
+    /// @return S_OK, also when there is none; E_INVALIDARG for no open analysis document; E_FAIL
+    static HRESULT GetAnalysisSets(VEXListValVEXBaseUnknown_var& sets, VEXDocument* document,
+                                   VEXUnicodeString lateType);
+
     /// The document that holds an analysis case, not counted; null for an empty handle or a case
     /// whose document is gone.
     static VEXDocument* GetDocument(const VEXISamAnalysisCase_var& analysisCase);

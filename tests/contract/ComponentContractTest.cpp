@@ -8,6 +8,8 @@
 #include "VEXMetaClass.h"
 #include "host/component/ComponentTypes.h"
 #include "host/feature/Document.h"
+#include "host/part/Body.h"
+#include "support/GeometrySpecimens.h"
 
 #include <gtest/gtest.h>
 
@@ -28,6 +30,7 @@ public:
         AddDocuments();
         AddFeatures();
         AddServices();
+        AddCells();
     }
 
     ~Specimens()
@@ -81,6 +84,24 @@ private:
         }
     }
 
+    /// A body, its domain and a cell of each dimension.
+    void AddCells()
+    {
+        VEXDocument* document = nullptr;
+        const VEXUnicodeString path(hlxtest::PartSpecimen(_folder, "box"));
+        EXPECT_EQ(VEXDocumentServices::OpenDocument(path, document, 0), S_OK);
+        _documents.push_back(document);
+        std::string error;
+        const vex::BodyHolder body = vex::Body::Of(*vex::Document::From(document), error);
+        EXPECT_NE(body, nullptr) << error;
+        _objects.push_back(VEXShare<VEXBaseUnknown>(body.get()));
+        _objects.push_back(VEXShare<VEXBaseUnknown>(body->DomainAt(0, 1)));
+        for (int dimension = 0; dimension <= 3; ++dimension) {
+            _objects.push_back(VEXShare<VEXBaseUnknown>(body->CellAt(dimension, 1)));
+        }
+    }
+
+    hlxtest::TemporaryFolder _folder;
     std::vector<VEXDocument*> _documents;
     std::vector<VEXBaseUnknown_var> _objects;
 };

@@ -29,7 +29,7 @@ TEST_F(CircularLinks, DocumentsThatUseEachOtherOpenWalkAndClose)
         int size = 0;
         std::string err;
         EXPECT_EQ(Walk(product, size, err), S_OK) << err;
-        EXPECT_EQ(size, 6) << "two uses in top, three in sub, and the part";
+        EXPECT_EQ(size, 7) << "two uses in top, three in sub, the part, and its body";
         EXPECT_EQ(Session().Documents().size(), 3U);
         EXPECT_EQ(VEXDocumentServices::Remove(*product, 0), S_OK);
         EXPECT_TRUE(Session().Documents().empty());

@@ -40,6 +40,10 @@ int ShowShape(const std::string& path)
                 shape->CellKind(dimension, cell);
                 shape->CellMeasure(dimension, cell);
                 shape->CellCentre(dimension, cell);
+                shape->CellBoundary(dimension, cell);
+            }
+            for (std::size_t domain = 1; domain <= shape->DomainCount(dimension); ++domain) {
+                shape->DomainCells(dimension, domain, 3 - dimension);
             }
         }
         return kShape;

@@ -51,7 +51,7 @@ protected:
         fs::remove_all(part);
         hlxtest::WriteFile(part, sound);
         EXPECT_EQ(Walk(again, size, err), S_OK);
-        EXPECT_EQ(size, 2) << "the use, and the part";
+        EXPECT_EQ(size, 3) << "the use, the part, and its body";
         EXPECT_EQ(err, "");
         EXPECT_EQ(VEXDocumentServices::Remove(*again, 0), S_OK);
     }

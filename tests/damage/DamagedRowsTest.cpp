@@ -49,7 +49,7 @@ TEST_F(DamagedRows, PlacesInTheTree)
         {{"UPDATE feature SET id = 1 WHERE parent = 0 AND id > 1",
           "feature 1: its id stands twice"},
          {"UPDATE feature SET id = 0 WHERE parent = 0 AND id > 1",
-          "table feature, row 1625: feature 0: its id is not positive"},
+          "table feature, row 1628: feature 0: its id is not positive"},
          {"UPDATE feature SET id = -5 WHERE position = 3",
           "table feature, row 3: feature -5: its id is not positive"},
          {"UPDATE feature SET parent = 99999 WHERE position = 3",
@@ -146,7 +146,7 @@ TEST_F(DamagedRows, WhatTheCatalogueDoesNotHave)
             "feature 89 'One HLXPressure': no catalogue defines its late type 'HLXNoSuchLT'. "
             "Install the library that does.");
     refused("UPDATE attribute_name SET name = 'NoSuch' WHERE name = 'PartNumber'",
-            "feature 120 'One VEXProductNode': the late type 'VEXProductNode' has no attribute "
+            "feature 123 'One VEXProductNode': the late type 'VEXProductNode' has no attribute "
             "'NoSuch'. Use the catalogue that the document was made with.");
     refused(
         "UPDATE attribute_name SET name = CASE name WHEN 'TimePeriod' THEN 'NonlinearGeometry' "

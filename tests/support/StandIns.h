@@ -42,6 +42,8 @@ class BodyStandIn : public Mortal<VEXBody>
 {
 public:
     using Mortal::Mortal;
+    HRESULT GetAllCells(VEXListPtrVEXCell&, short) const override { return E_FAIL; }
+    VEXDomain* GetDomain(int, int) const override { return nullptr; }
 };
 
 class DocumentContainersStandIn : public Mortal<VEXIContainerOfDocument>

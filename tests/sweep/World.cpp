@@ -11,6 +11,7 @@
 
 #include <filesystem>
 #include <map>
+#include <memory>
 
 namespace hlxtest::sweep {
 
@@ -28,16 +29,32 @@ void AddStepToEachCase(VEXDocument* document)
     }
 }
 
-void LinkToProduct(VEXDocument* document, const std::string& path)
+VEXDocument* OpenFile(const std::string& path)
 {
-    VEXDocument* product = nullptr;
-    ASSERT_EQ(VEXDocumentServices::New("VEXProduct", product), S_OK);
-    ASSERT_EQ(VEXDocumentServices::SaveAs(*product, VEXUnicodeString(path), "", 1), S_OK);
+    VEXDocument* document = nullptr;
+    EXPECT_EQ(VEXDocumentServices::OpenDocument(VEXUnicodeString(path), document, 0), S_OK);
+    return document;
+}
+
+VEXBaseUnknown_var RootOf(VEXDocument* document)
+{
+    const VEXIDocRoots_var docRoots = VEXShare<VEXBaseUnknown>(document);
+    const std::unique_ptr<VEXListValVEXBaseUnknown_var> roots(docRoots->GetRoots());
+    return (*roots)[1];
+}
+
+/// Links to product.VEXProduct in `folder`, which has one child, the part box.VEXPart.
+void LinkToProduct(VEXDocument* document, const std::string& folder)
+{
+    std::filesystem::copy_file(HLX_BINARY_DIR "/tests/geometry/box.VEXPart",
+                               folder + "/box.VEXPart");
+    std::filesystem::copy_file(HLX_BINARY_DIR "/tests/geometry/box.VEXProduct",
+                               folder + "/product.VEXProduct");
     VEXISamAnalysisManager_var manager;
     ASSERT_EQ(HLXAnalysisDocUtils::GetAnalysisManager(manager, document), S_OK);
     VEXISamDocumentManager_var links;
     ASSERT_EQ(manager->GetDocumentManager(links), S_OK);
-    ASSERT_EQ(links->AddLink(product), S_OK);
+    ASSERT_EQ(links->AddLink(OpenFile(folder + "/product.VEXProduct")), S_OK);
 }
 
 /// The folder that holds the standard document with `cases` cases. Made once a process.
@@ -51,7 +68,7 @@ const std::string& StoredDocument(int cases)
         std::filesystem::create_directory(place->second);
         AnalysisDocument document(cases);
         AddStepToEachCase(document.Get());
-        LinkToProduct(document.Get(), place->second + "/product.VEXProduct");
+        LinkToProduct(document.Get(), place->second);
         document.SaveAs(place->second + "/model.VEXAnalysis");
     }
     return place->second;
@@ -96,12 +113,30 @@ void World::MakeProduct()
 {
     VEXDocument* product = nullptr;
     ASSERT_EQ(VEXDocumentServices::New("VEXProduct", product), S_OK);
-    const VEXIDocRoots_var docRoots = VEXShare(product);
-    VEXListValVEXBaseUnknown_var* const roots = docRoots->GetRoots();
-    ASSERT_NE(roots, nullptr);
-    test._RootProduct = (*roots)[1];
-    delete roots;
+    test._RootProduct = RootOf(product);
     ASSERT_TRUE(test._RootProduct);
+}
+
+void World::FindProduct()
+{
+    test._RootProduct = RootOf(OpenFile(input + "/product.VEXProduct"));
+    ASSERT_TRUE(test._RootProduct);
+}
+
+void World::FindPart()
+{
+    test._MechanicalPart = RootOf(OpenFile(input + "/box.VEXPart"));
+    ASSERT_TRUE(test._MechanicalPart);
+}
+
+void World::FindStep()
+{
+    Open();
+    VEXListValVEXBaseUnknown_var steps;
+    ASSERT_EQ(HLXAnalysisDocUtils::GetAnalysisSets(steps, test._Document, "HLXGeneralStaticStepLT"),
+              S_OK);
+    step = steps[1];
+    ASSERT_TRUE(step);
 }
 
 }  // namespace hlxtest::sweep

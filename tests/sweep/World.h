@@ -14,7 +14,8 @@ class World
 {
 public:
     /// Empties `folder` and puts into it: in/model.VEXAnalysis, which has `cases` analysis cases
-    /// with a step each and is linked to in/product.VEXProduct, and the empty folder out.
+    /// with a step each and is linked to in/product.VEXProduct, which has the part in/box.VEXPart;
+    /// and the empty folder out.
     World(const std::string& folder, int cases);
 
     const std::string input;     ///< folder of the document
@@ -22,6 +23,7 @@ public:
     const std::string document;  ///< path of the stored document
     CommandLine line;            ///< of a program: in, document, out, job.inp, second.inp
     ExposedTestCase test;        ///< with its paths set, the document not open
+    VEXISpecObject_var step;     ///< from FindStep
 
     /// A path in the folder for what is written.
     VEXUnicodeString Output(const char* name) const { return {(output + "/" + name).c_str()}; }
@@ -37,6 +39,12 @@ public:
     void FindTree();
     /// Makes a product the test case's root product.
     void MakeProduct();
+    /// Makes in/product.VEXProduct the test case's root product.
+    void FindProduct();
+    /// Makes the part of in/box.VEXPart the test case's mechanical part.
+    void FindPart();
+    /// Opens the document and finds the step of its first analysis case.
+    void FindStep();
 
     /// The analysis case of that number from ListCases.
     VEXISamAnalysisCase_var Case(int number) const { return test._AnalysisCases[number]; }

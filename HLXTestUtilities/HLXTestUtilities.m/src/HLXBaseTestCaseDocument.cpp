@@ -3,6 +3,7 @@
 #include "HLXBaseTestCase.h"
 
 #include "HLXConsole.h"
+#include "HLXNavigation.h"
 #include "HLXProductUtilities.h"
 #include "VEXComponents.h"
 #include "VEXDocumentServices.h"
@@ -44,27 +45,11 @@ long HLXBaseTestCase::SetCurrentDocument(const char* path)
 
 long HLXBaseTestCase::GetAnalysisManager(VEXISamAnalysisManager_var& manager)
 {
+    const char* message = nullptr;
+    const long rc =
+        HLXNavigation::FindAnalysisManager(_Document, _AnalysisContainer, manager, message);
     // No message of this operation has an end of line; kept.
-    const VEXISamAccess_var access = VEXShare(_Document);
-    if (access == nullptr) {
-        HLXConsole::Print("**********ERROR in getting the FEM");
-        return E_FAIL;
-    }
-    VEXIContainer* container = nullptr;
-    long rc = access->GetSpecContainer(container);
-    if (FAILED(rc)) {
-        HLXConsole::Print(
-            "**********ERROR in getting the "
-            "Spec Container");
-        return rc;
-    }
-    _AnalysisContainer = VEXAdopt(container);
-    if (_AnalysisContainer == nullptr) {
-        HLXConsole::Print("**********ERROR in getting the Analysis Container");
-        return E_FAIL;
-    }
-    rc = _AnalysisContainer->GetAnalysisManager(manager);
-    if (FAILED(rc)) HLXConsole::Print("**********ERROR in getting the Analysis Manager");
+    HLXConsole::Print(message);
     return rc;
 }
 

@@ -5,6 +5,7 @@
 
 #include "VEXLists.h"
 #include "host/feature/Document.h"
+#include "host/feature/FeatureSearch.h"
 
 namespace vex {
 
@@ -12,18 +13,6 @@ namespace vex {
 inline VEXBaseUnknown_var HandleOf(Feature* feature)
 {
     return VEXShare<VEXBaseUnknown>(feature);
-}
-
-/// The first child that offers an interface; null when there is none.
-template <class Interface>
-Feature* FirstChild(const Feature& parent)
-{
-    for (Feature* const child : parent.Children()) {
-        if (Offers<Interface>(*child)) {
-            return child;
-        }
-    }
-    return nullptr;
 }
 
 /// Appends the children that offer an interface, in order. @return S_OK; E_FAIL when the parent is

@@ -8,6 +8,8 @@
 #include "host/feature/DocumentAdapters.h"
 #include "host/feature/DocumentSession.h"
 #include "host/feature/FeatureAdapters.h"
+#include "host/part/BodyAdapters.h"
+#include "host/part/PartAdapters.h"
 #include "host/product/ProductAdapters.h"
 #include "host/product/ProductStructure.h"
 
@@ -53,8 +55,18 @@ const VEXComponentLibrary& HostComponentLibrary()
         // Product structure and parts.
         {"VEXProductContainer", "VEXContainer", {}, nullptr},
         {"VEXProductNode", "VEXFeature", productNodeInterfaces, nullptr},
-        {"VEXPrtContainer", "VEXContainer", {}, nullptr},
+        {"VEXPrtContainer", "VEXContainer", partContainerInterfaces, nullptr},
         {"VEXPart", "VEXFeature", partInterfaces, nullptr},
+        {"VEXMechanicalTool", "VEXFeature", mechanicalToolInterfaces, nullptr},
+        {"VEXImportedShape", "VEXFeature", importedShapeInterfaces, nullptr},
+        {"VEXBRepAccess", "VEXFeature", brepAccessInterfaces, nullptr},
+        // Shapes of parts.
+        {"VEXBody", nullptr, bodyInterfaces, nullptr},
+        {"VEXDomain", nullptr, domainInterfaces, nullptr},
+        {"VEXVolumeCell", nullptr, volumeCellInterfaces, nullptr},
+        {"VEXFaceCell", nullptr, faceCellInterfaces, nullptr},
+        {"VEXEdgeCell", nullptr, edgeCellInterfaces, nullptr},
+        {"VEXVertexCell", nullptr, vertexCellInterfaces, nullptr},
         // Analysis.
         {"VEXSamAnalysisContainer", "VEXContainer", analysisContainer, nullptr},
         {"VEXSamAnalysisObject", "VEXFeature", analysisObject, nullptr},

@@ -60,7 +60,7 @@ struct ImportedAssembly
 
 // A part's shape in memory. Cells are numbered from 1 in each dimension (0 vertex, 1 edge, 2 face,
 // 3 solid) in the kernel's map order, which depends on the shape's bytes only. A dimension or an
-// index that does not exist gives an empty value.
+// index that does not exist gives an empty value; so does what the kernel breaks off with an error.
 class __attribute__((visibility("default"))) ShapeModel
 {
 public:
@@ -68,9 +68,23 @@ public:
 
     virtual std::size_t CellCount(int dimension) const = 0;
 
-    // Solids, and whatever surfaces, wires and points belong to no solid: sheet bodies count by
-    // connected shell.
-    virtual std::size_t BodyCount() const = 0;
+    // Cells of the next lower dimension that bound a cell, by index: each once, in the order of the
+    // boundary. Those of a vertex are none.
+    virtual std::vector<std::size_t> CellBoundary(int dimension, std::size_t index) const = 0;
+
+    // Connected pieces by codimension (0 to 3): solids; sheets (shells in no solid, then faces in
+    // no shell); wires (wires in no face, then edges in no wire); points (vertices in no edge).
+    virtual std::size_t DomainCount(int codimension) const = 0;
+
+    // The cells of a dimension in a domain, which counts from 1, by index, ascending.
+    virtual std::vector<std::size_t> DomainCells(int codimension, std::size_t domain,
+                                                 int dimension) const = 0;
+
+    // All domains.
+    std::size_t BodyCount() const
+    {
+        return DomainCount(0) + DomainCount(1) + DomainCount(2) + DomainCount(3);
+    }
 
     // "vertex"; "line", "circle", "ellipse", "hyperbola", "parabola", "bezier", "bspline",
     // "offset", "other" or "degenerate" (an edge without length, as at a sphere's pole); "plane",
@@ -109,6 +123,6 @@ public:
 
 // Counts up with any change of the declarations above: a library built for another version is
 // refused.
-inline constexpr unsigned kGeometryKernelVersion = 1;
+inline constexpr unsigned kGeometryKernelVersion = 2;
 
 }  // namespace vex

@@ -7,7 +7,38 @@
 #include "host/product/ProductStructure.h"
 #include "host/system/MessageTexts.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace vex {
+
+namespace {
+
+Feature* PartOf(const Document& document)
+{
+    Feature* const root = RootObject(document);
+    return root == nullptr || !root->Kind().IsKindOf(partType) ? nullptr : root;
+}
+
+}  // namespace
+
+std::int64_t GeometryNumber(const Document& document)
+{
+    const Feature* const part = PartOf(document);
+    return part == nullptr ? 0 : std::max(part->GetAs<std::int64_t>("Geometry"), std::int64_t{0});
+}
+
+bool GiveGeometry(Document& document, std::vector<std::byte> shape)
+{
+    Feature* const part = PartOf(document);
+    if (part == nullptr) {
+        return false;
+    }
+    const std::uint64_t number = document.AddGeometry(std::move(shape));
+    part->Set("Geometry", static_cast<std::int64_t>(number));
+    document.Tree().Create(LateTypes::Instance().Require(importedShapeType), &MainBody(*part));
+    return true;
+}
 
 PartGeometry::PartGeometry(Document& part) : _part(&part)
 {
@@ -17,13 +48,12 @@ PartGeometry::PartGeometry(Document& part) : _part(&part)
 bool PartGeometry::Bytes(std::span<const std::byte>& bytes, std::string& error)
 {
     const std::string file = system::Quoted(_part->Path()) + ": ";
-    const Feature* const part = _part->IsOpen() ? RootObject(*_part) : nullptr;
-    if (part == nullptr || !part->Kind().IsKindOf(partType)) {
+    if (!_part->IsOpen() || PartOf(*_part) == nullptr) {
         error = file + "it holds no part. Name an open .VEXPart document.";
         return false;
     }
-    const std::int64_t number = part->GetAs<std::int64_t>("Geometry");
-    if (number <= 0) {
+    const std::int64_t number = GeometryNumber(*_part);
+    if (number == 0) {
         error = file + "the part has no geometry. Import one from a STEP file.";
         return false;
     }

@@ -8,8 +8,17 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace vex {
+
+/// The number of the geometry that a part document has at present; 0 for a part without one and for
+/// other documents.
+VEX_EXPORT std::int64_t GeometryNumber(const Document& document);
+
+/// Gives a part document a geometry, in the kernel's binary form, and its main body a feature of
+/// shape for it. False when the document holds no part.
+VEX_EXPORT bool GiveGeometry(Document& document, std::vector<std::byte> shape);
 
 /// Holds a reference of the document as long as it lives.
 class VEX_EXPORT PartGeometry

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-// Product nodes and parts through their interfaces.
+// Product nodes through their interfaces.
 #include "host/product/ProductAdapters.h"
 
 #include "host/feature/DocumentSession.h"
 #include "host/feature/Refusal.h"
 #include "host/product/ProductStructure.h"
-#include "host/system/Probe.h"
 
 namespace vex {
 
@@ -45,26 +44,14 @@ bool ProductDescendantsAdapter::AppendBelow(std::vector<Feature*>& below, std::s
     return AllBelow(Self(), below, error);
 }
 
-VEXDocument* LinkableObjectAdapter::GetDocument() const
-{
-    return Probe<"VEXILinkableObject::GetDocument">([&]() -> VEXDocument* {
-        const Document* const owner = Document::OwnerOf(&Self());
-        return owner == nullptr ? nullptr : owner->AsVEXDocument();
-    });
-}
-
 namespace {
 
 constexpr VEXInterfaceRow productNodeRows[] = {
     InterfaceRow<ProductAdapter>(), InterfaceRow<ProductDescendantsAdapter>(),
     InterfaceRow<LinkableObjectAdapter>(), InterfaceRow<NavigateAdapter>()};
-constexpr VEXInterfaceRow partRows[] = {InterfaceRow<LinkableObjectAdapter>(),
-                                        InterfaceRow<DescendantsAdapter>(),
-                                        InterfaceRow<NavigateAdapter>()};
 
 }  // namespace
 
 constinit const std::span<const VEXInterfaceRow> productNodeInterfaces = productNodeRows;
-constinit const std::span<const VEXInterfaceRow> partInterfaces = partRows;
 
 }  // namespace vex

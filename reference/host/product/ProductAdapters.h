@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-// The interfaces of product nodes and parts. They cross from a product document into those it links
-// to, which are opened when they are first needed.
+// The interfaces of product nodes, and that of objects which can be linked to. They cross from a
+// product document into those it links to, which are opened when they are first needed.
 #pragma once
 
 #include "VEXProductStructure.h"
+#include "host/feature/Document.h"
 #include "host/feature/FeatureAdapters.h"
+#include "host/system/Probe.h"
 
 #include <span>
 
@@ -29,15 +31,31 @@ protected:
     bool AppendBelow(std::vector<Feature*>& below, std::string& error) const override;
 };
 
-class VEX_EXPORT LinkableObjectAdapter final : public Adapter<VEXILinkableObject, Feature>
+/// The document that holds a feature; null when the feature is gone.
+inline const Document* DocumentOf(const Feature& feature)
+{
+    return Document::OwnerOf(&feature);
+}
+
+/// Of whatever DocumentOf tells the document of.
+template <class Object>
+class LinkableAdapter final : public Adapter<VEXILinkableObject, Object>
 {
 public:
-    using Adapter::Adapter;
-    VEXDocument* GetDocument() const override;
+    using Adapter<VEXILinkableObject, Object>::Adapter;
+
+    VEXDocument* GetDocument() const override
+    {
+        return Probe<"VEXILinkableObject::GetDocument">([&]() -> VEXDocument* {
+            const Document* const document = DocumentOf(this->Self());
+            return document == nullptr ? nullptr : document->AsVEXDocument();
+        });
+    }
 };
 
-/// Rows: of VEXProductNode and of VEXPart, both on top of featureInterfaces.
+using LinkableObjectAdapter = LinkableAdapter<Feature>;
+
+/// Rows of VEXProductNode, on top of featureInterfaces.
 VEX_EXPORT extern const std::span<const VEXInterfaceRow> productNodeInterfaces;
-VEX_EXPORT extern const std::span<const VEXInterfaceRow> partInterfaces;
 
 }  // namespace vex

@@ -44,6 +44,19 @@ void MakeProductStructure(Document& document)
 void MakePartStructure(Document& document)
 {
     MakeStructure(document, "VEXPrtContainer", partType);
+    MainBody(*RootObject(document));
+}
+
+Feature& MainBody(Feature& part)
+{
+    for (Feature* const child : part.Children()) {
+        if (child->Kind().IsKindOf(mechanicalToolType)) {
+            return *child;
+        }
+    }
+    Feature& body = part.Tree()->Create(LateTypes::Instance().Require(mechanicalToolType), &part);
+    body.SetAlias("Main Body");
+    return body;
 }
 
 Feature* RootObject(const Document& document)

@@ -13,14 +13,19 @@ namespace vex {
 
 inline constexpr const char* productNodeType = "VEXProductNode";
 inline constexpr const char* partType = "VEXPart";
+inline constexpr const char* mechanicalToolType = "VEXMechanicalTool";
+inline constexpr const char* importedShapeType = "VEXImportedShape";
 
 /// What a new product document holds: the container with the root node, and the container of B-rep
 /// accesses.
 VEX_EXPORT void MakeProductStructure(Document& document);
 
-/// What a new part document holds: the container with the part, and the container of B-rep
-/// accesses.
+/// What a new part document holds: the container with the part, which has a main body, and the
+/// container of B-rep accesses.
 VEX_EXPORT void MakePartStructure(Document& document);
+
+/// The first body of a part, made when it has none.
+VEX_EXPORT Feature& MainBody(Feature& part);
 
 /// The one node or part that stands directly in the document's container; null for an analysis
 /// document and an empty one.

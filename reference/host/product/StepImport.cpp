@@ -9,6 +9,7 @@
 #include "host/feature/DocumentStorage.h"
 #include "host/product/DocumentNames.h"
 #include "host/product/GeometryKernelLoader.h"
+#include "host/product/PartGeometry.h"
 #include "host/product/ProductStructure.h"
 #include "host/system/MessageTexts.h"
 #include "host/system/Texts.h"
@@ -133,10 +134,8 @@ bool StepImport::StorePart(std::size_t part, std::string& error)
 {
     ImportedPart& imported = _assembly.parts[part];
     const DocumentHolder document = DocumentSession::Make(DocumentType::Part);
-    Feature& feature = *RootObject(*document);
-    feature.SetAlias(StorableName(imported.name));
-    feature.Set("Geometry",
-                static_cast<std::int64_t>(document->AddGeometry(std::move(imported.shape))));
+    RootObject(*document)->SetAlias(StorableName(imported.name));
+    GiveGeometry(*document, std::move(imported.shape));
     return StoreDocument(*document, _partPaths[part], error);
 }
 

@@ -9,6 +9,7 @@
 #include <TopExp_Explorer.hxx>
 #include <TopTools_MapOfShape.hxx>
 
+#include <algorithm>
 #include <exception>
 
 namespace vex::topology {
@@ -16,24 +17,14 @@ namespace {
 
 constexpr std::array kCellTypes{TopAbs_VERTEX, TopAbs_EDGE, TopAbs_FACE, TopAbs_SOLID};
 
-std::size_t CountApart(const TopoDS_Shape& shape, TopAbs_ShapeEnum type, TopAbs_ShapeEnum owner)
+// Appends the shapes of a type that belong to none of the type `owner`, each once.
+void AppendApart(const TopoDS_Shape& shape, TopAbs_ShapeEnum type, TopAbs_ShapeEnum owner,
+                 std::vector<TopoDS_Shape>& apart)
 {
     TopTools_MapOfShape found;
     for (TopExp_Explorer each(shape, type, owner); each.More(); each.Next()) {
-        found.Add(each.Current());
+        if (found.Add(each.Current())) apart.push_back(each.Current());
     }
-    return static_cast<std::size_t>(found.Extent());
-}
-
-// A body is a solid, or what belongs to no larger one: a shell, a face, a wire, an edge, a vertex.
-std::size_t CountBodies(const TopoDS_Shape& shape)
-{
-    return CountApart(shape, TopAbs_SOLID, TopAbs_SHAPE) +
-           CountApart(shape, TopAbs_SHELL, TopAbs_SOLID) +
-           CountApart(shape, TopAbs_FACE, TopAbs_SHELL) +
-           CountApart(shape, TopAbs_WIRE, TopAbs_FACE) +
-           CountApart(shape, TopAbs_EDGE, TopAbs_WIRE) +
-           CountApart(shape, TopAbs_VERTEX, TopAbs_EDGE);
 }
 
 // The answer of `ask`, or an empty one where the kernel cannot give any.
@@ -56,7 +47,12 @@ BRepShapeModel::BRepShapeModel(const TopoDS_Shape& shape)
     for (std::size_t dimension = 0; dimension < cells_.size(); ++dimension) {
         TopExp::MapShapes(shape, kCellTypes[dimension], cells_[dimension]);
     }
-    bodyCount_ = CountBodies(shape);
+    AppendApart(shape, TopAbs_SOLID, TopAbs_SHAPE, domains_[0]);
+    AppendApart(shape, TopAbs_SHELL, TopAbs_SOLID, domains_[1]);
+    AppendApart(shape, TopAbs_FACE, TopAbs_SHELL, domains_[1]);
+    AppendApart(shape, TopAbs_WIRE, TopAbs_FACE, domains_[2]);
+    AppendApart(shape, TopAbs_EDGE, TopAbs_WIRE, domains_[2]);
+    AppendApart(shape, TopAbs_VERTEX, TopAbs_EDGE, domains_[3]);
 }
 
 std::size_t BRepShapeModel::CellCount(int dimension) const
@@ -95,12 +91,61 @@ std::optional<Point> BRepShapeModel::CellCentre(int dimension, std::size_t index
     });
 }
 
+std::vector<std::size_t> BRepShapeModel::CellsIn(const TopoDS_Shape& shape,
+                                                 std::size_t dimension) const
+{
+    std::vector<std::size_t> cells;
+    TopTools_MapOfShape found;
+    for (TopExp_Explorer each(shape, kCellTypes[dimension]); each.More(); each.Next()) {
+        if (found.Add(each.Current())) {
+            const int index = cells_[dimension].FindIndex(each.Current());
+            if (index > 0) cells.push_back(static_cast<std::size_t>(index));
+        }
+    }
+    return cells;
+}
+
+std::vector<std::size_t> BRepShapeModel::CellBoundary(int dimension, std::size_t index) const
+{
+    const TopoDS_Shape* cell = Cell(dimension, index);
+    if (cell == nullptr || dimension == 0) return {};
+    return WithoutFailure<std::vector<std::size_t>>(
+        [&] { return CellsIn(*cell, static_cast<std::size_t>(dimension - 1)); });
+}
+
+std::size_t BRepShapeModel::DomainCount(int codimension) const
+{
+    if (codimension < 0 || codimension > 3) return 0;
+    return domains_[static_cast<std::size_t>(codimension)].size();
+}
+
+std::vector<std::size_t> BRepShapeModel::DomainCells(int codimension, std::size_t domain,
+                                                     int dimension) const
+{
+    if (domain < 1 || domain > DomainCount(codimension) || dimension < 0 || dimension > 3)
+        return {};
+    const TopoDS_Shape& shape = domains_[static_cast<std::size_t>(codimension)][domain - 1];
+    return WithoutFailure<std::vector<std::size_t>>([&] {
+        std::vector<std::size_t> cells = CellsIn(shape, static_cast<std::size_t>(dimension));
+        std::ranges::sort(cells);
+        return cells;
+    });
+}
+
 void BRepShapeModel::AskEverything() const
 {
     for (int dimension = 0; dimension <= 3; ++dimension) {
         for (std::size_t index = 1; index <= CellCount(dimension); ++index) {
             CellKind(dimension, index);
             CellCentre(dimension, index);  // what it takes gives the measure too
+            CellBoundary(dimension, index);
+        }
+    }
+    for (int codimension = 0; codimension <= 3; ++codimension) {
+        for (std::size_t domain = 1; domain <= DomainCount(codimension); ++domain) {
+            for (int dimension = 0; dimension <= 3; ++dimension) {
+                DomainCells(codimension, domain, dimension);
+            }
         }
     }
 }

@@ -8,6 +8,7 @@
 #include <TopoDS_Shape.hxx>
 
 #include <array>
+#include <vector>
 
 namespace vex::topology {
 
@@ -18,7 +19,10 @@ public:
     explicit BRepShapeModel(const TopoDS_Shape& shape);
 
     std::size_t CellCount(int dimension) const override;
-    std::size_t BodyCount() const override { return bodyCount_; }
+    std::vector<std::size_t> CellBoundary(int dimension, std::size_t index) const override;
+    std::size_t DomainCount(int codimension) const override;
+    std::vector<std::size_t> DomainCells(int codimension, std::size_t domain,
+                                         int dimension) const override;
     std::string CellKind(int dimension, std::size_t index) const override;
     std::optional<double> CellMeasure(int dimension, std::size_t index) const override;
     std::optional<Point> CellCentre(int dimension, std::size_t index) const override;
@@ -31,8 +35,10 @@ private:
     // Null where there is no such cell.
     const TopoDS_Shape* Cell(int dimension, std::size_t index) const;
 
+    std::vector<std::size_t> CellsIn(const TopoDS_Shape& shape, std::size_t dimension) const;
+
     std::array<TopTools_IndexedMapOfShape, 4> cells_;
-    std::size_t bodyCount_ = 0;
+    std::array<std::vector<TopoDS_Shape>, 4> domains_;  // by codimension
 };
 
 }  // namespace vex::topology

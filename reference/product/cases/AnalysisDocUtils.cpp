@@ -19,6 +19,31 @@ const Document* AnalysisDocument(const VEXDocument* document)
     return found == nullptr || found->DocType() != vex::DocumentType::Analysis ? nullptr : found;
 }
 
+/// As GetAllAnalysisCases.
+HRESULT AppendAllCases(const VEXDocument* document, VEXListValVEXBaseUnknown_var& cases)
+{
+    const Document* const found = AnalysisDocument(document);
+    if (found == nullptr) {
+        return E_INVALIDARG;
+    }
+    const Feature* const manager = vex::AnalysisManagerOf(*found);
+    if (manager == nullptr) {
+        return E_FAIL;
+    }
+    for (const Feature* const model : manager->Children()) {
+        if (vex::Offers<VEXISamAnalysisModel>(*model)) {
+            vex::AppendChildren<VEXISamAnalysisCase>(*model, cases);
+        }
+    }
+    return S_OK;
+}
+
+bool IsOfType(const VEXBaseUnknown_var& set, const VEXUnicodeString& lateType)
+{
+    const Feature* const feature = vex::FeatureBehind(set.Get());
+    return feature != nullptr && (lateType.IsEmpty() || feature->Kind().IsKindOf(lateType.View()));
+}
+
 }  // namespace
 
 HRESULT HLXAnalysisDocUtils::GetAnalysisManager(VEXISamAnalysisManager_var& manager,
@@ -41,23 +66,29 @@ HRESULT HLXAnalysisDocUtils::GetAllAnalysisCases(VEXListValVEXBaseUnknown_var& c
                                                  VEXDocument* document)
 {
     return Probe<"HLXAnalysisDocUtils::GetAllAnalysisCases">(
+        [&] { return AppendAllCases(document, cases); }, Out(cases),
+        In(DocumentArgument{document}));
+}
+
+HRESULT HLXAnalysisDocUtils::GetAnalysisSets(VEXListValVEXBaseUnknown_var& sets,
+                                             VEXDocument* document, VEXUnicodeString lateType)
+{
+    return Probe<"HLXAnalysisDocUtils::GetAnalysisSets">(
         [&]() -> HRESULT {
-            const Document* const found = AnalysisDocument(document);
-            if (found == nullptr) {
-                return E_INVALIDARG;
+            VEXListValVEXBaseUnknown_var cases;
+            VEXListValVEXBaseUnknown_var all;
+            HRESULT result = AppendAllCases(document, cases);
+            for (int i = 1; SUCCEEDED(result) && i <= cases.Size(); ++i) {
+                result = VEXISamAnalysisCase_var(cases[i])->GetAnalysisSets(all);
             }
-            const Feature* const manager = vex::AnalysisManagerOf(*found);
-            if (manager == nullptr) {
-                return E_FAIL;
-            }
-            for (const Feature* const model : manager->Children()) {
-                if (vex::Offers<VEXISamAnalysisModel>(*model)) {
-                    vex::AppendChildren<VEXISamAnalysisCase>(*model, cases);
+            for (int i = 1; SUCCEEDED(result) && i <= all.Size(); ++i) {
+                if (IsOfType(all[i], lateType)) {
+                    sets.Append(all[i]);
                 }
             }
-            return S_OK;
+            return result;
         },
-        Out(cases), In(DocumentArgument{document}));
+        Out(sets), In(DocumentArgument{document}), In(lateType));
 }
 
 VEXDocument* HLXAnalysisDocUtils::GetDocument(const VEXISamAnalysisCase_var& analysisCase)

@@ -111,15 +111,16 @@ TEST_F(FeatureAdaptersTest, AContainerListsWhatHasAnInterface)
 {
     Add(thing, "TestThing", "below");
     const VEXIContainer_var members = VEXShare(container.Face<VEXIContainer>());
-    // The part that a new document has, the thing, and the one below it.
-    EXPECT_EQ(members->GetMemberCount("VEXISpecObject"), 3);
-    EXPECT_EQ(members->GetMemberCount("VEXILinkableObject"), 1);
+    // The part that a new document has and its body, the thing, and the one below it.
+    EXPECT_EQ(members->GetMemberCount("VEXISpecObject"), 4);
+    EXPECT_EQ(members->GetMemberCount("VEXILinkableObject"), 2);
     EXPECT_EQ(members->GetMemberCount("NoSuchInterface"), 0);
     EXPECT_EQ(members->GetMemberCount(nullptr), 0);
     const auto list = Owned(members->ListMembers("VEXIAlias"));
-    ASSERT_EQ(list->Size(), 3);
-    EXPECT_EQ(VEXIAlias_var((*list)[2])->GetAlias(), "thing");
-    EXPECT_EQ(VEXIAlias_var((*list)[3])->GetAlias(), "below");
+    ASSERT_EQ(list->Size(), 4);
+    EXPECT_EQ(VEXIAlias_var((*list)[2])->GetAlias(), "Main Body");
+    EXPECT_EQ(VEXIAlias_var((*list)[3])->GetAlias(), "thing");
+    EXPECT_EQ(VEXIAlias_var((*list)[4])->GetAlias(), "below");
     EXPECT_EQ(Owned(members->ListMembers(nullptr))->Size(), 0);
 }
 
@@ -134,9 +135,9 @@ TEST_F(FeatureAdaptersTest, DescendantsComeEachBeforeThoseBelowIt)
     for (int i = 1; i <= list.Size(); ++i) {
         names += std::string(VEXIAlias_var(list[i])->GetAlias().View()) + ' ';
     }
-    EXPECT_EQ(names, " thing 1 1.1 2 ");
+    EXPECT_EQ(names, " Main Body thing 1 1.1 2 ");
     EXPECT_EQ(all->GetAllChildren("VEXIAlias", list), S_OK);
-    EXPECT_EQ(list.Size(), 10);
+    EXPECT_EQ(list.Size(), 12);
 }
 
 TEST_F(FeatureAdaptersTest, NavigationShowsTheChildrenInOrder)

@@ -103,7 +103,7 @@ TEST_F(ProductStructureTest, DescendantsOfAUseLeadIntoThePart)
     const VEXIDescendants_var use = (*children)[2];
     VEXListValVEXISpecObject_var list;
     ASSERT_EQ(use->GetAllChildren("VEXILinkableObject", list), S_OK);
-    EXPECT_EQ(Aliases(list), "bolt, ");
+    EXPECT_EQ(Aliases(list), "bolt, Main Body, ");
     const VEXILinkableObject_var part = list[1];
     EXPECT_EQ(part->GetDocument()->StorageName(), folder.File("bolt.VEXPart").c_str());
     const VEXILinkableObject_var node = use;
@@ -115,7 +115,7 @@ TEST_F(ProductStructureTest, AllDescendantsEnterEachDocumentOnce)
     const VEXIDescendants_var top = OpenTop();
     VEXListValVEXISpecObject_var list;
     ASSERT_EQ(top->GetAllChildren("VEXISpecObject", list), S_OK);
-    EXPECT_EQ(Aliases(list), "bolt 1, bolt, bolt 2, sub 1, sub bolt, ");
+    EXPECT_EQ(Aliases(list), "bolt 1, bolt, Main Body, bolt 2, sub 1, sub bolt, ");
 }
 
 TEST_F(ProductStructureTest, DocumentsThatUseEachOtherEnd)
@@ -127,7 +127,7 @@ TEST_F(ProductStructureTest, DocumentsThatUseEachOtherEnd)
     const VEXIDescendants_var top = OpenTop();
     VEXListValVEXISpecObject_var list;
     ASSERT_EQ(top->GetAllChildren("VEXISpecObject", list), S_OK);
-    EXPECT_EQ(Aliases(list), "bolt 1, bolt, bolt 2, sub 1, sub top, sub sub, ");
+    EXPECT_EQ(Aliases(list), "bolt 1, bolt, Main Body, bolt 2, sub 1, sub top, sub sub, ");
 }
 
 TEST_F(ProductStructureTest, RootsCanBeShownAsTrees)
@@ -144,8 +144,9 @@ TEST_F(ProductStructureTest, RootsCanBeShownAsTrees)
     ASSERT_EQ(roots->Size(), 1);
     const VEXINavigateObject_var bolt = (*roots)[1];
     ASSERT_TRUE(bolt);
-    const std::unique_ptr<VEXListValVEXBaseUnknown_var> none(bolt->GetChildren());
-    EXPECT_EQ(none->Size(), 0);
+    const std::unique_ptr<VEXListValVEXBaseUnknown_var> bodies(bolt->GetChildren());
+    ASSERT_EQ(bodies->Size(), 1);
+    EXPECT_EQ(VEXIAlias_var((*bodies)[1])->GetAlias(), "Main Body");
 }
 
 TEST_F(ProductStructureTest, AMissingDocumentIsAFailureWithAReason)

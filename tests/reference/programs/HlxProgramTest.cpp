@@ -57,7 +57,7 @@ TEST(HlxProgram, MakesTheDocumentsOfASampleAndShowsThem)
                      ""}));
     const Ended part = Hlx({"info", in + "Bolt.VEXPart"});
     EXPECT_EQ(part.code, 0);
-    EXPECT_THAT(part.out, StartsWith("type: VEXPart\ndata version: 1\nfeatures: 3\nbodies: 1\n"));
+    EXPECT_THAT(part.out, StartsWith("type: VEXPart\ndata version: 1\nfeatures: 5\nbodies: 1\n"));
 }
 
 TEST(HlxProgram, ShowsTheTreeOfEveryKindOfDocument)
@@ -70,7 +70,8 @@ TEST(HlxProgram, ShowsTheTreeOfEveryKindOfDocument)
         {"sample.VEXProduct",
          "VEXProductNode \"BracketAssembly\" PartNumber=\"BracketAssembly\"\n"
          "  VEXProductNode \"Bracket.1\" PartNumber=\"Bracket\" "},
-        {"Bolt.VEXPart", "VEXPart \"Bolt\" Geometry=1\n"}};
+        {"Bolt.VEXPart",
+         "VEXPart \"Bolt\" Geometry=1\n  VEXMechanicalTool \"Main Body\"\n    VEXImportedShape\n"}};
     for (const auto& [name, start] : rows) {
         const Ended tree = Hlx({"tree", sample.Input() + "/" + name});
         EXPECT_EQ(tree.code, 0) << name;

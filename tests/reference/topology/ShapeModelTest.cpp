@@ -8,6 +8,7 @@
 
 #include <cstring>
 #include <map>
+#include <set>
 
 namespace hlxtest {
 namespace {
@@ -68,6 +69,35 @@ TEST_F(Shapes, CellsOfAPin)
     EXPECT_THAT(KindsOf(*pin, 2), ElementsAre(Pair("cylinder", 1), Pair("plane", 2)));
 }
 
+TEST_F(Shapes, BoundariesAreOfTheNextLowerDimension)
+{
+    EXPECT_THAT(block->CellBoundary(3, 1), ElementsAre(1, 2, 3, 4, 5, 6));
+    for (std::size_t face = 1; face <= 6; ++face) {
+        EXPECT_EQ(block->CellBoundary(2, face).size(), 4u);
+    }
+    EXPECT_TRUE(block->CellBoundary(0, 1).empty());
+    // The seam bounds the side of the pin twice, the end of its circle the circle twice.
+    std::multiset<std::size_t> faces;
+    std::multiset<std::size_t> edges;
+    for (std::size_t index = 1; index <= 3; ++index) {
+        faces.insert(pin->CellBoundary(2, index).size());
+        edges.insert(pin->CellBoundary(1, index).size());
+    }
+    EXPECT_THAT(faces, ElementsAre(1, 1, 3));
+    EXPECT_THAT(edges, ElementsAre(1, 1, 2));
+}
+
+TEST_F(Shapes, DomainsAreSolidsOrSheets)
+{
+    EXPECT_EQ(block->DomainCount(0), 1u);
+    EXPECT_THAT(block->DomainCells(0, 1, 2), ElementsAre(1, 2, 3, 4, 5, 6));
+    const auto sheet = LoadOnlyPart(kStepData + "sheet.step");
+    EXPECT_EQ(sheet->DomainCount(0), 0u);
+    EXPECT_EQ(sheet->DomainCount(1), 1u);
+    EXPECT_EQ(sheet->DomainCells(1, 1, 2).size(), 6u);
+    EXPECT_TRUE(sheet->DomainCells(1, 1, 3).empty());
+}
+
 TEST_F(Shapes, MeasuresAreMillimetres)
 {
     EXPECT_EQ(SumOf(*block, 0), 0);
@@ -107,7 +137,14 @@ TEST_F(Shapes, ACellThatDoesNotExistIsEmpty)
         EXPECT_EQ(block->CellKind(dimension, index), "") << dimension << ' ' << index;
         EXPECT_FALSE(block->CellMeasure(dimension, index)) << dimension << ' ' << index;
         EXPECT_FALSE(block->CellCentre(dimension, index)) << dimension << ' ' << index;
+        EXPECT_TRUE(block->CellBoundary(dimension, index).empty()) << dimension << ' ' << index;
+        EXPECT_TRUE(block->DomainCells(0, index == 1 ? 2 : index, 2).empty()) << index;
     }
+    EXPECT_EQ(block->DomainCount(-1), 0u);
+    EXPECT_EQ(block->DomainCount(4), 0u);
+    EXPECT_TRUE(block->DomainCells(4, 1, 2).empty());
+    EXPECT_TRUE(block->DomainCells(0, 1, -1).empty());
+    EXPECT_TRUE(block->DomainCells(0, 1, 4).empty());
     EXPECT_EQ(block->CellCount(-1), 0u);
     EXPECT_EQ(block->CellCount(4), 0u);
 }
@@ -125,6 +162,8 @@ TEST_F(Shapes, TheSameBytesGiveTheSameCellsInTheSameOrder)
                           second->CellMeasure(dimension, index));
                 EXPECT_EQ(first->CellCentre(dimension, index),
                           second->CellCentre(dimension, index));
+                EXPECT_EQ(first->CellBoundary(dimension, index),
+                          second->CellBoundary(dimension, index));
             }
         }
     }
