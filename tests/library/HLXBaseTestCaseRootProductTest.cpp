@@ -86,7 +86,7 @@ TEST_F(RootProductTest, NeedsAManager)
 {
     Link(ProductSpecimen(folder, "box"));
     EXPECT_EQ(OutcomeOf([&] { return testCase.InitializeRootProduct(nullptr); }),
-              (Outcome{E_FAIL, kNoDocumentManager, ""}));
+              (Outcome{E_FAIL, kNoLinkedGeometry, ""}));
 }
 
 TEST_F(RootProductTest, NeedsADocumentThatCanBeOpened)

@@ -30,13 +30,13 @@ HRESULT HLXAnalysisTestUtils::GetProductDocFromAnalysisDoc(VEXDocument*& documen
         return Fail(message);
     }
     VEXISamDocumentManager_var documentManager;
-    if (manager == nullptr || FAILED(manager->GetDocumentManager(documentManager))) {
+    if (manager && FAILED(manager->GetDocumentManager(documentManager))) {
         return Fail("Could not get document manager");
     }
 
     // Of both lists the entries tell, the results are not looked at; kept.
     VEXListValVEXBaseUnknown_var models;
-    manager->GetAllAnalysisModels(models);
+    if (manager) manager->GetAllAnalysisModels(models);
     if (models.Size() == 0) return Fail("***ERROR No analysis models found.");
     model = models[1];
     // Nothing is done with it; the cast is kept.
@@ -91,11 +91,11 @@ HRESULT HLXAnalysisTestUtils::GetMechPartFeatFromProductDoc(VEXIProduct_var& pro
     const VEXIContainerOfDocument_var containers =
         VEXAdopt(static_cast<VEXIContainerOfDocument*>(found));
     VEXIContainer* specContainer = nullptr;
-    if (containers == nullptr || FAILED(containers->GetSpecContainer(specContainer))) {
+    if (containers && FAILED(containers->GetSpecContainer(specContainer))) {
         return Fail("Cannot Retrieve Spec container");
     }
     // Whether there are B-rep accesses is not looked at; kept.
-    containers->GetBRepContainer(partContainer);
+    if (containers) containers->GetBRepContainer(partContainer);
 
     const VEXIPrtContainer_var part = VEXAdopt(specContainer);
     if (part == nullptr) return Fail("Cannot get interface VEXIPrtContainer!");
@@ -106,7 +106,7 @@ HRESULT HLXAnalysisTestUtils::GetMechPartFeatFromProductDoc(VEXIProduct_var& pro
 namespace {
 
 /// Appends the cells of one dimension, each as what it is.
-template <class Cell>
+template <class Handle, class Cell>
 HRESULT AppendCells(const VEXBody_var& body, short dimension, VEXListPtr<Cell>& list,
                     const char* message)
 {
@@ -114,7 +114,7 @@ HRESULT AppendCells(const VEXBody_var& body, short dimension, VEXListPtr<Cell>& 
     // The list tells, the result is not looked at; kept.
     if (body) body->GetAllCells(cells, dimension);
     for (int i = 1; i <= cells.Size(); ++i) {
-        const VEXVar<Cell> cell = VEXShare(cells[i]);
+        const Handle cell = VEXShare(cells[i]);
         if (cell == nullptr) return Fail(message);
         list.Append(cell.Get());
     }
@@ -143,9 +143,10 @@ HRESULT HLXAnalysisTestUtils::GetSupportDataFromPartFeat(VEXISpecObject_var& par
     // A missing element or body is not reported; kept.
     body = element ? element->GetBody() : VEXBody_var();
 
-    HRESULT rc = AppendCells(body, 2, faces, "Cannot get a VEXFace!");
-    if (SUCCEEDED(rc)) rc = AppendCells(body, 1, edges, "Cannot get a VEXEdge!");
-    if (SUCCEEDED(rc)) rc = AppendCells(body, 0, vertices, "Cannot get a VEXVertex!");
+    HRESULT rc = AppendCells<VEXFace_var>(body, 2, faces, "Cannot get a VEXFace!");
+    if (SUCCEEDED(rc)) rc = AppendCells<VEXEdge_var>(body, 1, edges, "Cannot get a VEXEdge!");
+    if (SUCCEEDED(rc))
+        rc = AppendCells<VEXVertex_var>(body, 0, vertices, "Cannot get a VEXVertex!");
     return rc;
 }
 
@@ -185,7 +186,7 @@ HRESULT HLXAnalysisTestUtils::GetFeatContainer(VEXUnicodeString lateType, VEXISp
         factory->Release();
     }
     ScanForContainer(step, lateType, container);
-    return rc;
+    return S_OK;
 }
 
 HRESULT HLXAnalysisTestUtils::GetFeatureByName(VEXUnicodeString lateType,

