@@ -36,7 +36,7 @@ public:
     /// them.
     /// @param body  receives the body: hold it as long as the cells are used
     /// @return S_OK, also without a body or cells; E_FAIL, without a message when the main body
-    ///         gives no results
+    ///         is none that has results
     static HRESULT GetSupportDataFromPartFeat(VEXISpecObject_var& partFeature,
                                               VEXListPtrVEXFace& faces, VEXListPtrVEXEdge& edges,
                                               VEXListPtrVEXVertex& vertices, VEXBody_var& body);

@@ -272,9 +272,9 @@ protected:
     VEXIContainerOfDocument* _PartDocContainer = nullptr;  ///< owned; of the part document
     VEXINavigateObject_var _NavigateObject;                ///< root of the feature-tree dump
     VEXISpecObject_var _MechanicalPart;                    ///< mechanical part feature of the part
-    VEXILinkableObject_var _PartLink;                 ///< the part document as the target of links
-    VEXISamAnalysisContainer_var _AnalysisContainer;  ///< analysis container of the document
-    VEXISpecObject_var _AmplitudeFeature;             ///< amplitude made last
+    VEXILinkableObject_var _PartLink;                      ///< the chosen child of the root product
+    VEXISamAnalysisContainer_var _AnalysisContainer;       ///< analysis container of the document
+    VEXISpecObject_var _AmplitudeFeature;                  ///< amplitude made last
     /// Open from CreateTimeLoggingFile to StopTimer, dangling after it.
     std::FILE* _TimeLogFile = nullptr;
 

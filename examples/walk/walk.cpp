@@ -75,6 +75,7 @@ HRESULT Walk(const char* path)
     VEXDocument* document = nullptr;
     HRESULT rc = VEXDocumentServices::OpenDocument(path, document, 1);
     if (FAILED(rc)) return rc;
+    if (document == nullptr) return E_FAIL;
     rc = PrintCells(document);
     const HRESULT removed = VEXDocumentServices::Remove(*document, 1);
     return FAILED(rc) ? rc : removed;
@@ -91,10 +92,11 @@ int main(int argc, char** argv)
     HLXSession session("walk");
     if (session.IsSessionRunning() != 1) return 1;
     if (FAILED(Walk(argv[1]))) {
-        std::fprintf(stderr,
-                     "walk: %s: no part can be reached from it; the lines above say why. Give an "
-                     "analysis document that is linked to a product with a part.\n",
-                     argv[1]);
+        std::fprintf(
+            stderr,
+            "walk: %s: no part with a shape can be reached from it. Give an analysis document "
+            "whose first link is to a product that has such a part as its first child.\n",
+            argv[1]);
         return 1;
     }
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {

@@ -65,8 +65,9 @@ VEX_INTERFACE(VEXIMechanicalTool);
 class VEXIGeometricalElement : public VEXBaseUnknown
 {
 public:
-    /// Its body: the same object as long as somebody holds it. Empty, with the reason on standard
-    /// error, when the part has no geometry or it cannot be read.
+    /// Its body, of the geometry that the part has now: the same object as long as somebody holds
+    /// it. Empty, with the reason on standard error, when the part has no geometry or it cannot be
+    /// read.
     virtual VEXBody_var GetBody() const = 0;
 };
 
@@ -80,7 +81,8 @@ class VEXIBRepAccess : public VEXBaseUnknown
 public:
     /// The cell, found again in the body.
     /// @param cell  receives it, owned by the body; empty on failure
-    /// @param body  receives the body, which the caller holds as long as he uses the cell
+    /// @param body  receives the body, which the caller holds as long as he uses the cell; as long
+    ///              as somebody holds it, the shape is not read again for the next access
     /// @return S_OK; E_FAIL when the access is gone or, with the reason on standard error, when the
     /// shape is not the one that it was taken from: it never is another cell
     virtual HRESULT GetCell(VEXCell_var& cell, VEXBody_var& body) const = 0;

@@ -25,7 +25,8 @@ public:
     /// The shape that carries the cell: "vertex"; "line", "circle", "ellipse", "hyperbola",
     /// "parabola", "bezier", "bspline", "offset", "other", "degenerate" (an edge without length, as
     /// at a sphere's pole); "plane", "cylinder", "cone", "sphere", "torus", "bezier", "bspline",
-    /// "revolution", "extrusion", "offset", "other"; "solid". Empty when the cell is gone.
+    /// "revolution", "extrusion", "offset", "other"; "solid". Empty when the cell is gone or its
+    /// shape cannot be told.
     virtual VEXUnicodeString GetKind() const = 0;
 
     /// Length (mm), area (mm²) or volume (mm³; negative where a solid is turned inside out); 0 for
@@ -74,8 +75,8 @@ public:
     virtual VEXCell* Next() = 0;
 };
 
-/// One connected piece of a body: a solid, or where nothing encloses a volume a sheet of faces, a
-/// wire of edges, a point.
+/// One piece of a body: a solid, or where nothing encloses a volume a sheet of faces, a wire of
+/// edges, a point.
 ///
 /// Domains and their cells are numbered by codimension, how many dimensions a cell has less than
 /// space: 0 volume, 1 face, 2 edge, 3 vertex. Names of ours: all.
@@ -103,8 +104,9 @@ public:
 
     /// A domain of the body, owned by it.
     /// @param index        from 1
-    /// @param codimension  of the cells that fill it: 0: solids; 1: sheets that belong to no solid;
-    ///                     2: wires that belong to no sheet; 3: points
+    /// @param codimension  of the cells that fill it: 0: solids; 1: shells that stand outside of
+    ///                     solids, and faces outside of shells; 2: wires outside of faces, and
+    ///                     edges outside of wires; 3: vertices outside of edges
     /// @return null when there is none and when the body is gone
     virtual VEXDomain* GetDomain(int index, int codimension) const = 0;
 };

@@ -57,6 +57,7 @@ TEST_P(StaticOutputContainerTest, IsTheOnlyThingHeld)
     EXPECT_EQ(HeldAfter([&] { Find(GetParam().lateType); }),
               (HeldCounts{{GetParam().lateType, 1}}));
     EXPECT_EQ(References(*container.Get()), 1U);
+    EXPECT_EQ(References(*step.Get()), 1U);
     EXPECT_EQ(HeldAfter("",
                         [&] {
                             VEXBaseUnknown_var found;

@@ -62,12 +62,14 @@ TEST_F(StaticPartTest, ThePartIsReachedStepByStep)
 TEST_F(StaticPartTest, NothingButTheResultsIsHeld)
 {
     product = RootOf(Open(ProductSpecimen(folder, "box")));
+    const unsigned long held = References(*product.Get());
     EXPECT_EQ(
         HeldAfter(
             "",
             [&] { return Utils::GetMechPartFeatFromProductDoc(product, part, link, container); }),
         (HeldCounts{{"VEXPart", 1}, {"VEXBRepContainer", 1}}));
     EXPECT_EQ(References(*container), 1U);
+    EXPECT_EQ(References(*product.Get()), held);
 }
 
 TEST_F(StaticPartTest, FormerResultsAreReplacedAndAFormerContainerIsLeftToTheCaller)

@@ -89,12 +89,14 @@ TEST_F(StaticSupportDataTest, NothingButTheBodyIsHeld)
     const HeldCounts withBody = HeldAfter([&] { platformBody = PlatformBody(); });
     ASSERT_EQ(withBody.at("VEXBody"), 1);
     platformBody.Reset();
+    const unsigned long held = References(*part.Get());
     EXPECT_EQ(
         HeldAfter(
             "",
             [&] { return Utils::GetSupportDataFromPartFeat(part, faces, edges, vertices, body); }),
         withBody);
     EXPECT_EQ(References(*body.Get()), 1U);
+    EXPECT_EQ(References(*part.Get()), held);
 }
 
 TEST_F(StaticSupportDataTest, TheCellsLiveWithTheBody)

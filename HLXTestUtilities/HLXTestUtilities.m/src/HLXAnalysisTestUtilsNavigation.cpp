@@ -144,9 +144,12 @@ HRESULT HLXAnalysisTestUtils::GetSupportDataFromPartFeat(VEXISpecObject_var& par
     body = element ? element->GetBody() : VEXBody_var();
 
     HRESULT rc = AppendCells<VEXFace_var>(body, 2, faces, "Cannot get a VEXFace!");
-    if (SUCCEEDED(rc)) rc = AppendCells<VEXEdge_var>(body, 1, edges, "Cannot get a VEXEdge!");
-    if (SUCCEEDED(rc))
+    if (SUCCEEDED(rc)) {
+        rc = AppendCells<VEXEdge_var>(body, 1, edges, "Cannot get a VEXEdge!");
+    }
+    if (SUCCEEDED(rc)) {
         rc = AppendCells<VEXVertex_var>(body, 0, vertices, "Cannot get a VEXVertex!");
+    }
     return rc;
 }
 

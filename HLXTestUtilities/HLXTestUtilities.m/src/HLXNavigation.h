@@ -8,7 +8,7 @@
 namespace HLXNavigation {
 
 /// From a document to its analysis manager.
-/// @param container  receives the analysis container, empty when the way ends before or at it
+/// @param container  receives the analysis container; left as it is when the way ends before it
 /// @param manager    receives the manager
 /// @param message    receives what is to be said about the step that failed; null after success
 /// @return the result of the last call; E_FAIL for an interface that is missing

@@ -13,7 +13,7 @@ namespace {
 
 bool IsOfShape(const Feature& access, Body& body)
 {
-    const Feature* const part = RootObject(body.Part());
+    const Feature* const part = PartOf(body.Part());
     return part != nullptr && access.Target("Part") == part && !body.ShapeDigest().empty() &&
            access.GetAs<std::string>("Shape") == body.ShapeDigest();
 }
@@ -42,7 +42,7 @@ bool FindAccessedCell(const Feature& access, BodyHolder& body, Cell*& cell, std:
     Document& document = access.Tree()->Owner();
     const std::string place =
         system::Quoted(document.Path()) + ": B-rep access " + std::to_string(access.Id()) + ": ";
-    const Feature* const part = RootObject(document);
+    const Feature* const part = PartOf(document);
     if (part == nullptr || access.Target("Part") != part) {
         error = place +
                 "the document no longer has the part that it was taken from. Select the "
@@ -91,7 +91,7 @@ Feature* BRepAccesses::FindOrMake(const Cell& cell)
 {
     FeatureTree& tree = _body->Part().Tree();
     Feature* const container = _body->Part().BRepContainer();
-    const Feature* const part = RootObject(_body->Part());
+    const Feature* const part = PartOf(_body->Part());
     if (cell.Dimension() > 2 || container == nullptr || part == nullptr) {
         return nullptr;
     }

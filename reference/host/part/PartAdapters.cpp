@@ -7,6 +7,7 @@
 #include "host/feature/Refusal.h"
 #include "host/part/BRepAccesses.h"
 #include "host/product/ProductAdapters.h"
+#include "host/product/ProductStructure.h"
 #include "host/system/Probe.h"
 
 namespace vex {
@@ -26,8 +27,11 @@ public:
 
     VEXISpecObject_var GetMechanicalPart() const override
     {
-        return Probe<"VEXIPrtContainer::GetMechanicalPart">(
-            [&] { return FaceOf<VEXISpecObject>(FirstChild<VEXIPartRequest>(Self())); });
+        return Probe<"VEXIPrtContainer::GetMechanicalPart">([&] {
+            return Self().Tree() == nullptr
+                       ? VEXISpecObject_var()
+                       : FaceOf<VEXISpecObject>(PartOf(Self().Tree()->Owner()));
+        });
     }
 };
 

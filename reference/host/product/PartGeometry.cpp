@@ -12,16 +12,6 @@
 
 namespace vex {
 
-namespace {
-
-Feature* PartOf(const Document& document)
-{
-    Feature* const root = RootObject(document);
-    return root == nullptr || !root->Kind().IsKindOf(partType) ? nullptr : root;
-}
-
-}  // namespace
-
 std::int64_t GeometryNumber(const Document& document)
 {
     const Feature* const part = PartOf(document);

@@ -69,6 +69,20 @@ Feature* RootObject(const Document& document)
     return container->Children().front();
 }
 
+Feature* PartOf(const Document& document)
+{
+    const Feature* const container = document.SpecContainer();
+    if (container == nullptr) {
+        return nullptr;
+    }
+    for (Feature* const child : container->Children()) {
+        if (child->Kind().IsKindOf(partType)) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
 Document* LinkedDocument(const Feature& node, std::string& error)
 {
     error.clear();

@@ -31,6 +31,10 @@ VEX_EXPORT Feature& MainBody(Feature& part);
 /// document and an empty one.
 VEX_EXPORT Feature* RootObject(const Document& document);
 
+/// The part that stands in the container of a part document, the first of several; null when there
+/// is none.
+VEX_EXPORT Feature* PartOf(const Document& document);
+
 /// Opens the document that a node links to if it is not open yet. Null without an error for a node
 /// that links to none and for other features; null with the reason in `error` when it cannot be
 /// opened or is neither product nor part.

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::array kCellTypes{TopAbs_VERTEX, TopAbs_EDGE, TopAbs_FACE, TopAbs_SOLID};
 
-// Appends the shapes of a type that belong to none of the type `owner`, each once.
+// Appends the shapes of a type that stand outside of those of the type `owner`, each once.
 void AppendApart(const TopoDS_Shape& shape, TopAbs_ShapeEnum type, TopAbs_ShapeEnum owner,
                  std::vector<TopoDS_Shape>& apart)
 {

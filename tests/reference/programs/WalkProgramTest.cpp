@@ -88,13 +88,14 @@ TEST_F(WalkProgram, SaysWhyNoPartCanBeReached)
         const Ended ended = Walk({path});
         EXPECT_EQ(ended.code, 1) << path;
         EXPECT_EQ(ended.out, said);
-        EXPECT_THAT(ended.err, HasSubstr("walk: " + path + ": no part can be reached from it"));
+        EXPECT_THAT(ended.err,
+                    HasSubstr("walk: " + path + ": no part with a shape can be reached from it"));
     }
     const Ended shapeless =
         Walk({AnalysisOf(hlxtest::ProductSpecimen(folder, "without_geometry"))});
     EXPECT_EQ(shapeless.code, 1);
     EXPECT_THAT(shapeless.out, IsEmpty());
-    EXPECT_THAT(shapeless.err, HasSubstr("no part can be reached from it"));
+    EXPECT_THAT(shapeless.err, HasSubstr("no part with a shape can be reached from it"));
 }
 
 }  // namespace
