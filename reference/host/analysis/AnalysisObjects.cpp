@@ -12,12 +12,6 @@ Feature* AnalysisManagerOf(const Document& document)
     return container == nullptr ? nullptr : FirstChild<VEXISamAnalysisManager>(*container);
 }
 
-Feature* FeatureBehind(const VEXBaseUnknown* object)
-{
-    auto* const feature = object == nullptr ? nullptr : dynamic_cast<Feature*>(object->GetImpl());
-    return feature == nullptr || feature->Tree() == nullptr ? nullptr : feature;
-}
-
 std::string TextOf(const DocumentArgument& argument)
 {
     if (argument.document == nullptr) {

@@ -34,9 +34,6 @@ HRESULT AppendChildren(const Feature& parent, VEXListValVEXBaseUnknown_var& list
 /// The manager of an analysis document; null for a document that has none.
 VEX_EXPORT Feature* AnalysisManagerOf(const Document& document);
 
-/// The feature behind an interface; null when there is none or it is gone.
-VEX_EXPORT Feature* FeatureBehind(const VEXBaseUnknown* object);
-
 /// A document pointer that a caller gave: it may be stale, so a probe looks it up and does not
 /// follow it.
 struct DocumentArgument

@@ -79,4 +79,11 @@ private:
     mutable std::vector<Bound> _adapters;
 };
 
+/// The component of a kind behind an interface; null when there is none, or another one.
+template <class Kind>
+Kind* ComponentBehind(const VEXBaseUnknown* object)
+{
+    return object == nullptr ? nullptr : dynamic_cast<Kind*>(object->GetImpl());
+}
+
 }  // namespace vex

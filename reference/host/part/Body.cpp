@@ -5,6 +5,9 @@
 #include "host/part/BRepAccesses.h"
 #include "host/system/Digest.h"
 
+#include <fmt/format.h>
+
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -89,11 +92,8 @@ const std::string& Body::ShapeDigest()
     std::span<const std::byte> bytes;
     std::string error;
     if (_digest.empty() && _part->Geometry(static_cast<std::uint64_t>(_number), bytes, error)) {
-        constexpr char digits[] = "0123456789abcdef";
         for (const std::byte byte : system::DigestOf(bytes)) {
-            const auto value = std::to_integer<unsigned>(byte);
-            _digest += digits[value >> 4U];
-            _digest += digits[value & 0xFU];
+            fmt::format_to(std::back_inserter(_digest), "{:02x}", std::to_integer<unsigned>(byte));
         }
     }
     return _digest;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// A domain of a body: one connected piece, with its cells.
+// A domain of a body: one piece, with its cells.
 #pragma once
 
 #include "host/part/BodyMember.h"

@@ -72,8 +72,9 @@ public:
     // boundary. Those of a vertex are none.
     virtual std::vector<std::size_t> CellBoundary(int dimension, std::size_t index) const = 0;
 
-    // Connected pieces by codimension (0 to 3): solids; sheets (shells in no solid, then faces in
-    // no shell); wires (wires in no face, then edges in no wire); points (vertices in no edge).
+    // Pieces by codimension (0 to 3): solids; sheets (shells outside of solids, then faces outside
+    // of shells); wires (wires outside of faces, then edges outside of wires); points (vertices
+    // outside of edges).
     virtual std::size_t DomainCount(int codimension) const = 0;
 
     // The cells of a dimension in a domain, which counts from 1, by index, ascending.

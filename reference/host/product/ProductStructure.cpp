@@ -3,6 +3,7 @@
 #include "host/product/ProductStructure.h"
 
 #include "host/feature/DocumentSession.h"
+#include "host/feature/FeatureSearch.h"
 #include "host/system/MessageTexts.h"
 
 #include <unordered_set>
@@ -49,10 +50,8 @@ void MakePartStructure(Document& document)
 
 Feature& MainBody(Feature& part)
 {
-    for (Feature* const child : part.Children()) {
-        if (child->Kind().IsKindOf(mechanicalToolType)) {
-            return *child;
-        }
+    if (Feature* const body = FirstChildOfType(part, mechanicalToolType)) {
+        return *body;
     }
     Feature& body = part.Tree()->Create(LateTypes::Instance().Require(mechanicalToolType), &part);
     body.SetAlias("Main Body");
@@ -72,15 +71,7 @@ Feature* RootObject(const Document& document)
 Feature* PartOf(const Document& document)
 {
     const Feature* const container = document.SpecContainer();
-    if (container == nullptr) {
-        return nullptr;
-    }
-    for (Feature* const child : container->Children()) {
-        if (child->Kind().IsKindOf(partType)) {
-            return child;
-        }
-    }
-    return nullptr;
+    return container == nullptr ? nullptr : FirstChildOfType(*container, partType);
 }
 
 Document* LinkedDocument(const Feature& node, std::string& error)

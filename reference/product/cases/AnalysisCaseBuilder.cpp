@@ -2,6 +2,7 @@
 // What stands in a new analysis case.
 #include "product/cases/AnalysisCaseBuilder.h"
 
+#include "host/feature/FeatureSearch.h"
 #include "host/feature/FeatureTree.h"
 
 #include <string>
@@ -64,12 +65,8 @@ Feature& AddAnalysisCase(Feature& model, HLXIAnalysisCase::analysisTypeEnum type
 
 Feature& AddElementBehavior(Feature& analysisCase)
 {
-    for (Feature* const child : analysisCase.Children()) {
-        if (child->Kind().IsKindOf(behaviorType)) {
-            return *child;
-        }
-    }
-    return Add(analysisCase, behaviorType);
+    Feature* const behavior = vex::FirstChildOfType(analysisCase, behaviorType);
+    return behavior == nullptr ? Add(analysisCase, behaviorType) : *behavior;
 }
 
 }  // namespace hlx

@@ -2,6 +2,7 @@
 // What stands in a new step.
 #include "product/steps/StepBuilder.h"
 
+#include "host/feature/FeatureSearch.h"
 #include "host/feature/FeatureTree.h"
 #include "host/system/Texts.h"
 
@@ -28,22 +29,13 @@ constexpr std::string_view otherSteps[] = {
     "HLXHacInitialStepLT",
 };
 
-Feature* SimulationHistory(const Feature& analysisCase)
-{
-    const auto isHistory = [](const Feature* child) {
-        return child->Kind().IsKindOf("HLXHacSimHistLT");
-    };
-    const auto found = std::ranges::find_if(analysisCase.Children(), isHistory);
-    return found == analysisCase.Children().end() ? nullptr : *found;
-}
-
 }  // namespace
 
 Feature* AddStep(Feature& analysisCase, std::string_view lateType, std::string_view name,
                  std::string& error)
 {
     vex::LateTypes& types = vex::LateTypes::Instance();
-    Feature* const history = SimulationHistory(analysisCase);
+    Feature* const history = vex::FirstChildOfType(analysisCase, "HLXHacSimHistLT");
     const LateType* const kind = types.Find(lateType);
     if (history == nullptr) {
         error = "the feature is no analysis case with a simulation history; give an analysis case";

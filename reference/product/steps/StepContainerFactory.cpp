@@ -2,10 +2,9 @@
 // Makes the containers of output requests.
 #include "product/steps/StepContainerFactory.h"
 
+#include "host/feature/FeatureSearch.h"
 #include "host/feature/FeatureTree.h"
 #include "host/system/Probe.h"
-
-#include <algorithm>
 
 namespace hlx {
 
@@ -16,10 +15,7 @@ HRESULT MakeOnce(vex::Feature& step, const char* container)
     if (step.Tree() == nullptr) {
         return E_FAIL;
     }
-    const auto isThere = [&](const vex::Feature* child) {
-        return child->Kind().IsKindOf(container);
-    };
-    if (std::ranges::none_of(step.Children(), isThere)) {
+    if (vex::FirstChildOfType(step, container) == nullptr) {
         step.Tree()->Create(vex::LateTypes::Instance().Require(container), &step);
     }
     return S_OK;
