@@ -3,7 +3,9 @@
 #include "DocumentWalk.h"
 
 #include "FuzzProcess.h"
+#include "HLXAmplitudes.h"
 #include "HLXIIfwTraverser.h"
+#include "HLXLoads.h"
 #include "HLXProductUtilities.h"
 #include "VEXComponents.h"
 
@@ -57,6 +59,18 @@ void WalkFeature(const VEXBaseUnknown_var& object)
     if (const VEXISamAnalysisCase_var analysisCase = object) {
         VEXListValVEXBaseUnknown_var sets;
         analysisCase->GetAnalysisSets(sets);
+    }
+    if (const VEXISamSupport_var support = object) {
+        VEXILinkableObject_var geometry;
+        support->GetGeometry(geometry);
+    }
+    if (const HLXILoad_var load = object) {
+        VEXISpecObject_var amplitude;
+        load->GetAmplitude(amplitude);
+    }
+    if (const HLXIAmplitude_var amplitude = object) {
+        HLXCftArrayHLXCftArrayDouble table;
+        amplitude->GetData(table);
     }
     if (const HLXIAnalysisCase_var analysisCase = object) {
         HLXIAnalysisCase::analysisTypeEnum type{};

@@ -41,6 +41,28 @@ Feature& FirstOf(Document& document, std::string_view lateType)
     return *found;
 }
 
+/// The bytes that stand for the shape of the sample part.
+std::vector<std::byte> PartGeometry()
+{
+    return std::vector<std::byte>(60, std::byte{7});
+}
+
+/// A support on the body of the sample part: no geometry kernel is asked for it.
+void AddSupport(Feature& load)
+{
+    vex::GeometryBlobs blobs;
+    std::string error;
+    const std::string* const digest = blobs.Digest(blobs.Add(PartGeometry()), error);
+    Require(digest != nullptr, "bytes have a digest: " + error);
+    Feature& support = Add(load, "VEXSamSupport", "");
+    support.Set("Document", Boxed<vex::DocumentLink>(vex::DocumentLink{InFolder("other.VEXPart"),
+                                                                       vex::DocumentType::Part}));
+    support.Set("Dimension", std::int64_t{3});
+    support.Set("Index", std::int64_t{1});
+    support.Set("Shape", Boxed<std::string>(*digest));
+    support.Set("Connector", Boxed<std::string>("GeometrySmartConnector"));
+}
+
 vex::Value Link(std::string_view name)
 {
     return Boxed<vex::DocumentLink>(vex::DocumentLink{InFolder(name)});
@@ -87,6 +109,7 @@ std::string SampleAnalysis()
     step->Set("TimePeriod", 0.5);
     Feature& pressure = Add(*step, "HLXPressure", "P1");
     pressure.Set("Amplitude", vex::Reference{step->Id()});
+    AddSupport(pressure);
     Feature& node = Add(analysisCase, "VEXProductNode", "");
     node.Set("Placement", Boxed<vex::DoubleList>(vex::DoubleList{1.0, -2.5, 1e300}));
     node.Set("Document", Link("other.VEXPart"));
@@ -112,8 +135,7 @@ std::string SampleProduct()
 std::string SamplePart()
 {
     Document& document = New("VEXPart");
-    Require(vex::GiveGeometry(document, std::vector<std::byte>(60, std::byte{7})),
-            "a part can have a geometry");
+    Require(vex::GiveGeometry(document, PartGeometry()), "a part can have a geometry");
     Feature& access = Add(FirstOf(document, "VEXBRepContainer"), "VEXBRepAccess", "");
     access.Set("Part", vex::Reference{FirstOf(document, "VEXPart").Id()});
     access.Set("Dimension", std::int64_t{2});

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // Static utilities for analysis documents, usable without a test case. Grouped by subject; the
-// source has the same order. Nothing is kept between calls. Messages go to standard output.
+// sources have the same order. Nothing is kept between calls. Messages go to standard output where
+// nothing else is said.
 #pragma once
 
-#include "VEXAnalysisModel.h"
+#include "HLXJobs.h"
 #include "VEXMechanicalPart.h"
 
 class VEX_EXPORT HLXAnalysisTestUtils
@@ -59,6 +60,127 @@ public:
     static HRESULT GetFeatureByName(VEXUnicodeString lateType, VEXUnicodeString setLateType,
                                     VEXUnicodeString name, VEXISpecObject_var& feature,
                                     VEXDocument* document);
+
+    // --- Steps: each message ends a line and is flushed ---------------------------------------
+
+    /// Makes a step for each code of a list; its name is a prefix and the code's place in the list.
+    ///
+    ///     GSS   General_Static_Step_       HLXGeneralStaticStepLT
+    ///     SPS   Staic_Perturbation_Step_   HLXStaticLPStepLT
+    ///     RS    Riks_Step_                 HLXRiksStepLT
+    ///     HTS   Heat_Transfer_Step_        HLXHeatTransferStepLT
+    ///     EDS   Explicit_Dynamic_Step_     HLXExplicitDynamicLT
+    ///
+    /// Prints each entry, and for a code "Adding ... step succeeded !" or "Add Step failed !". A
+    /// second call begins again with 1: names may repeat.
+    /// @param stepCodes     what is no code takes a number and makes no step
+    /// @param analysisCase  the case to make them in; null: the first code fails
+    /// @param steps         the steps are appended, each with a reference added that the caller
+    ///                      releases (VEXAdopt), also those made before a failure
+    /// @return S_OK; E_FAIL at the first step that could not be made
+    static HRESULT CreateSteps(VEXListValVEXUnicodeString& stepCodes,
+                               VEXISamAnalysisCase* analysisCase, VEXListPtrVEXBaseUnknown& steps);
+
+    // --- Amplitudes: no message ---------------------------------------------------------------
+
+    /// Makes an amplitude of ten rows (time, value): (0, 0), (1, 2), (2, 4), ... (9, 18).
+    /// @param document   an open analysis document
+    /// @param setOption  not 0: its times count from the start of the first step, else of the step
+    ///                   that uses it
+    /// @param amplitude  receives the amplitude, also when it could not be filled
+    /// @return S_OK; the platform's result when the factory or the amplitude could not be made or
+    ///         refused the table; E_FAIL without an amplitude, or when it has not the interface of
+    ///         its kind
+    static HRESULT CreateTabularAmplitude(VEXDocument* document, unsigned char setOption,
+                                          VEXISpecObject_var& amplitude);
+    /// As above, with values that go smoothly from row to row.
+    static HRESULT CreateSmoothStepAmplitude(VEXDocument* document, unsigned char setOption,
+                                             VEXISpecObject_var& amplitude);
+
+    // --- Jobs: no message ---------------------------------------------------------------------
+
+    /// Makes a job without a name in the job container of a case, to write that case.
+    /// @param job  receives the job. One that is in it before is taken for the new one when none
+    ///             could be made.
+    /// @return S_OK; E_FAIL without a job container or a job
+    static HRESULT CreateJob(VEXDocument* document, VEXISamAnalysisCase_var& analysisCase,
+                             HLXIJob_var& job);
+
+    /// Makes the two jobs of the tests that write input files: `jobName`, and one that writes one
+    /// part only, such as "Job-1" and "Job-1_SinglePart". Whether they took their names is not
+    /// looked at.
+    /// @return what the platform's error service makes of it: S_OK, or an error that came up on the
+    ///         way; E_FAIL when a job could not be made or cannot have a name. The first one stays
+    ///         when the second fails; it is taken for the second one, and named so, when the
+    ///         container could not be asked for that.
+    static HRESULT AddJobsForWritingInputFiles(VEXDocument* document,
+                                               VEXISamAnalysisCase_var analysisCase,
+                                               const VEXUnicodeString& jobName);
+
+    // --- Loads: each message of theirs ends a line and is flushed ------------------------------
+    //
+    // Each creates a load in a step, gives it values and a new tabular amplitude
+    // (CreateTabularAmplitude) that it uses, and puts it on geometry of the part that the document
+    // is linked to. The operations that find it (GetProductDocFromAnalysisDoc,
+    // GetMechPartFeatFromProductDoc, and for all but gravity GetSupportDataFromPartFeat) may print
+    // messages of their own. All but gravity want a part with faces, edges and vertices, whatever
+    // they are put on.
+    //
+    // Arguments: the open analysis document; the load's name; the load, received; the step.
+    // Results: S_OK, or E_FAIL: with a message where one is named, silently when there is no
+    // amplitude, part, body or cell. Nothing is undone on failure: a load that was created stays in
+    // the step.
+
+    /// Gravity of -9.81 in Z, on the main body. "********** Could not create HLXLoadFact",
+    /// "********** could not create gravity entity!", "********** Could not valuate gravity",
+    /// "Could not add support to gravity load".
+    /// @param name     given to what `gravity` holds before; the new load gets no name
+    /// @param gravity  receives the load on success, else left as it is
+    static HRESULT CreateGravity(VEXDocument* document, VEXUnicodeString name,
+                                 VEXISpecObject_var& gravity, VEXISamAnalysisSet_var& step);
+
+    /// Pressure of 1.25 on the first face. The load is made to follow the mesh ("subscription to
+    /// MeshNegociator OK"); whether it does is no matter. "********** Could not create
+    /// HLXLoadFact",
+    /// "********** could not create pressure entity!", "********** could not access interface
+    /// HLXIPressureLoad !", "********** could not access pressure parameter !", "********** Could
+    /// not set user sub attribute" for an amplitude refused, "Could not add support to Pressure".
+    /// @param pressure  receives the load as soon as it is there; a load that was in it before is
+    ///                  taken for the new one when the platform succeeds without making one
+    static HRESULT CreatePressureLoad(VEXDocument*& document, VEXUnicodeString name,
+                                      VEXISpecObject_var& pressure, VEXISamAnalysisSet_var& step);
+
+    /// Rotational body force of velocity 1.73205 and acceleration 5.25, on the main body, about the
+    /// first edge; whether it took the edge is not looked at. "********** Could not create
+    /// HLXLoadFact", "********** could not create centrifugal load entity!", "********** Could not
+    /// valuate RBF velocity", "********** Could not set user sub attribute" for an amplitude
+    /// refused, "Could not add support to gravity load".
+    /// @param name       given to what `bodyForce` holds before; the new load gets no name
+    /// @param bodyForce  receives the load on success, else left as it is
+    static HRESULT CreateRBF(VEXDocument* document, VEXUnicodeString name,
+                             VEXISpecObject_var& bodyForce, VEXISamAnalysisSet_var& step);
+
+    /// Concentrated force of 1 in X at the first vertex. "********** Could not create HLXLoadFact",
+    /// "********** could not create conc force entity!"; on standard error " Failed to add support
+    /// 1".
+    /// @param force  receives the load on success, else left as it is
+    static HRESULT CreatedConcForce(VEXDocument* document, VEXUnicodeString name,
+                                    VEXISpecObject_var& force, VEXISamAnalysisSet_var& step);
+
+    /// Concentrated heat flux of 4.6589, changed by a user's subroutine, at the first vertex;
+    /// whether it took the amplitude is not looked at. "could not create Concentrated Heat Flux
+    /// entity!", also without a factory; on standard error " Failed to add support 1".
+    /// @param flux  receives the load as soon as it is there
+    static HRESULT CreateConcHTFlux(VEXDocument* document, VEXUnicodeString name,
+                                    VEXISpecObject_var& flux, VEXISamAnalysisSet_var& step);
+
+    /// Film condition of temperature 51 on the first face. It also gets a film amplitude of its own
+    /// and film coefficients 1.2, 2.4, 3.5 at 10, 20, 30, which are not switched on; whether it
+    /// took either amplitude is not looked at. "could not create Film Condition entity!", also
+    /// without a factory, "Could not add support to Film Condition".
+    /// @param film  receives the load as soon as it is there
+    static HRESULT CreateFilmCondition(VEXDocument* document, VEXUnicodeString name,
+                                       VEXISpecObject_var& film, VEXISamAnalysisSet_var& step);
 
     // --- Input files --------------------------------------------------------------------------
 

@@ -13,6 +13,7 @@
 // of line. Nothing throws. Nothing is re-entrant: the timers are one for the whole library.
 #pragma once
 
+#include "HLXAmplitudes.h"
 #include "HLXIAnalysisCase.h"
 #include "VEXMechanicalPart.h"
 #include "VEXMetaClass.h"
@@ -134,6 +135,25 @@ protected:
     ///         the Analysis case"
     long AddAnalysisCase(unsigned char withElementBehavior,
                          HLXIAnalysisCase::analysisTypeEnum type);
+
+    // --- Steps and amplitudes -----------------------------------------------------------------
+
+    /// Makes a step in the first case of `_AnalysisCases`. No message.
+    /// @param stepType  kind of step, such as "HLXGeneralStaticStepLT"
+    /// @param stepName  its name; whether it was taken is not looked at
+    /// @param step      receives the step with a reference added that the caller releases; left as
+    ///                  it is without a factory or a case
+    /// @return the factory's result; E_FAIL without a factory or a case
+    HRESULT CreateStep(const VEXUnicodeString& stepType, const VEXUnicodeString& stepName,
+                       VEXISamAnalysisSet*& step);
+
+    /// Makes a tabular amplitude without rows: `_AmplitudeFeature`. Messages have no end of line:
+    /// "Could not instanciate the Amplitude factory", "Could not create tabular amplitude.", "Could
+    /// not get interface Tabular Amplitude".
+    /// @param amplitude  receives its interface with a reference added that the caller releases;
+    ///                   left as it is when there is no amplitude
+    /// @return the query's result; E_FAIL
+    HRESULT CreateTabularAmplitude(HLXITabularAmplitude*& amplitude);
 
     // --- Part, body and cells: no message has an end of line ----------------------------------
     //

@@ -5,11 +5,16 @@
 #include "host/component/Adapter.h"
 #include "host/feature/Refusal.h"
 #include "host/system/Probe.h"
+#include "product/amplitudes/AmplitudeAdapter.h"
+#include "product/amplitudes/AmplitudeFactory.h"
 #include "product/cases/AnalysisCaseAdapters.h"
 #include "product/catalog/CatalogFile.h"
+#include "product/conditions/LoadAdapters.h"
 #include "product/conditions/LoadFactory.h"
+#include "product/jobs/JobAdapters.h"
 #include "product/settings/GeneralSettingController.h"
 #include "product/steps/StepContainerFactory.h"
+#include "product/steps/StepFactory.h"
 
 namespace hlx {
 
@@ -20,8 +25,24 @@ using vex::InterfaceRow;
 constexpr VEXInterfaceRow analysisCase[] = {InterfaceRow<AnalysisCaseAdapter>()};
 constexpr VEXInterfaceRow analysisCaseFactory[] = {InterfaceRow<AnalysisCaseFactory>()};
 constexpr VEXInterfaceRow elementBehaviorFactory[] = {InterfaceRow<ElementBehaviorFactory>()};
+constexpr VEXInterfaceRow stepFactory[] = {InterfaceRow<StepFactory>()};
+constexpr VEXInterfaceRow amplitudeFactory[] = {InterfaceRow<AmplitudeFactory>()};
 constexpr VEXInterfaceRow loadFactory[] = {InterfaceRow<LoadFactory>()};
 constexpr VEXInterfaceRow step[] = {InterfaceRow<StepContainerFactory>()};
+constexpr VEXInterfaceRow load[] = {InterfaceRow<LoadAdapter<HLXILoad>>()};
+constexpr VEXInterfaceRow pressure[] = {InterfaceRow<PressureAdapter>()};
+constexpr VEXInterfaceRow gravity[] = {InterfaceRow<GravityAdapter>()};
+constexpr VEXInterfaceRow rotationalBodyForce[] = {InterfaceRow<RotationalBodyForceAdapter>()};
+constexpr VEXInterfaceRow concentratedForce[] = {InterfaceRow<ConcentratedForceAdapter>()};
+constexpr VEXInterfaceRow heatFlux[] = {InterfaceRow<HeatFluxAdapter>()};
+constexpr VEXInterfaceRow filmCondition[] = {InterfaceRow<FilmConditionAdapter>()};
+constexpr VEXInterfaceRow amplitude[] = {InterfaceRow<AmplitudeAdapter<HLXIAmplitude>>()};
+constexpr VEXInterfaceRow tabularAmplitude[] = {
+    InterfaceRow<AmplitudeAdapter<HLXITabularAmplitude>>()};
+constexpr VEXInterfaceRow smoothStepAmplitude[] = {
+    InterfaceRow<AmplitudeAdapter<HLXISmoothStepAmplitude>>()};
+constexpr VEXInterfaceRow job[] = {InterfaceRow<JobAdapter>()};
+constexpr VEXInterfaceRow jobContainer[] = {InterfaceRow<JobFactory>()};
 constexpr VEXInterfaceRow settingController[] = {InterfaceRow<GeneralSettingAdapter>(),
                                                  InterfaceRow<SettingRepositoryAdapter>()};
 
@@ -39,10 +60,25 @@ constexpr VEXComponentRow components[] = {
     {"HLXHacSolutionLT", "VEXSamAnalysisObject", {}, nullptr},
     {"HLXStepLT", "VEXSamAnalysisSet", step, nullptr},
     {"HLXContainerLT", "VEXSamAnalysisObject", {}, nullptr},
+    {"HLXJobContainerLT", "HLXContainerLT", jobContainer, nullptr},
+    {"HLXEntity", "VEXSamAnalysisEntity", {}, nullptr},
+    {"HLXLoad", "HLXEntity", load, nullptr},
+    {"HLXPressure", "HLXLoad", pressure, nullptr},
+    {"HLXGravity", "HLXLoad", gravity, nullptr},
+    {"HLXRotationalBodyForce", "HLXLoad", rotationalBodyForce, nullptr},
+    {"HLXConcentratedForce", "HLXLoad", concentratedForce, nullptr},
+    {"HLXHeatFlux", "HLXLoad", heatFlux, nullptr},
+    {"HLXFilmCondition", "HLXLoad", filmCondition, nullptr},
+    {"HLXAmplitudeLT", "VEXFeature", amplitude, nullptr},
+    {"HLXTabularAmplitudeLT", "HLXAmplitudeLT", tabularAmplitude, nullptr},
+    {"HLXSmoothStepAmplitudeLT", "HLXAmplitudeLT", smoothStepAmplitude, nullptr},
+    {"HLXJobLT", "VEXFeature", job, nullptr},
     // Factories and services.
     {"HLXHacAnalysisCaseFact", nullptr, analysisCaseFactory, MakeService<"HLXHacAnalysisCaseFact">},
     {"HLXElementBehaviorFact", nullptr, elementBehaviorFactory,
      MakeService<"HLXElementBehaviorFact">},
+    {"HLXAnalysisStepFact", nullptr, stepFactory, MakeService<"HLXAnalysisStepFact">},
+    {"HLXAmplitudeFact", nullptr, amplitudeFactory, MakeService<"HLXAmplitudeFact">},
     {"HLXLoadFact", nullptr, loadFactory, MakeService<"HLXLoadFact">},
     {GeneralSettingController::Name, nullptr, settingController, &GeneralSettingController::Create},
 };

@@ -31,13 +31,30 @@ public:
 
 VEX_INTERFACE(VEXISamAnalysisCase);
 
+/// Has what follows the mesh of a model told that it changed. Names of ours: all.
+class VEXISamMeshNegotiator : public VEXBaseUnknown
+{
+public:
+    /// Makes an entity of the model follow the mesh, which is stored with it; a second time changes
+    /// nothing.
+    /// @return S_OK; E_INVALIDARG for what is no entity of this model; E_FAIL when the model is
+    /// gone
+    virtual HRESULT Subscribe(const VEXISpecObject_var& entity) = 0;
+};
+
+VEX_INTERFACE(VEXISamMeshNegotiator);
+
 /// An analysis model: a finite element model with its cases.
-/// Names of ours: GetAnalysisCases.
+/// Names of ours: all.
 class VEXISamAnalysisModel : public VEXBaseUnknown
 {
 public:
     /// Appends the analysis cases of the model, in order.
     virtual HRESULT GetAnalysisCases(VEXListValVEXBaseUnknown_var& cases) const = 0;
+
+    /// The mesh negotiator of the model, with a reference added that the caller releases; null, and
+    /// E_FAIL, when there is none.
+    virtual HRESULT GetMeshNegotiator(VEXISamMeshNegotiator*& negotiator) const = 0;
 };
 
 VEX_INTERFACE(VEXISamAnalysisModel);

@@ -29,8 +29,11 @@ class VEXIPartRequest : public VEXBaseUnknown
 public:
     /// The main body, as a feature of the part.
     /// @param viewContext  "" or "MfDefault3DView"
-    /// @return empty in another view context and for a part without a body
-    virtual VEXISpecObject_var GetMainBody(const VEXUnicodeString& viewContext) const = 0;
+    /// @param mainBody     receives it; empty on failure
+    /// @return S_OK; E_FAIL in another view context, for a part without a body, and when the part
+    /// is gone
+    virtual HRESULT GetMainBody(const VEXUnicodeString& viewContext,
+                                VEXISpecObject_var& mainBody) const = 0;
 };
 
 VEX_INTERFACE(VEXIPartRequest);

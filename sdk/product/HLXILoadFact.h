@@ -4,12 +4,13 @@
 
 #include "VEXAnalysisModel.h"
 
-/// Each operation makes one kind of load in a step of the document. Names of ours: all.
-/// @param load  receives the new load
-/// @param document, step  where to make it
-/// @return S_OK; E_INVALIDARG for a document or step that is not open or not of one another;
-/// E_FAIL; E_NOTIMPL for a
-///         kind that this release cannot make
+/// Each operation makes one kind of load, without an alias, at the end of the load container of a
+/// step; every kind of step takes every kind of load. Names of ours: all.
+/// @param load      receives the new load; left as it is on failure
+/// @param document  an open analysis document
+/// @param step      a step of that document
+/// @return S_OK; E_INVALIDARG for another document or step; E_FAIL for a step without a load
+/// container
 class HLXILoadFact : public VEXBaseUnknown
 {
 public:
@@ -18,6 +19,7 @@ public:
                                    VEXISamAnalysisSet_var& step) = 0;
     /// A concentrated, surface or body heat flux.
     /// @param lateType  "HLXConcHeatFlux", "HLXSurfaceHeatFlux" or "HLXBodyHeatFlux"
+    /// @return E_INVALIDARG also for another type
     virtual HRESULT CreateHeatFlux(VEXISpecObject_var& load, const VEXUnicodeString& lateType,
                                    VEXDocument* document, VEXISamAnalysisSet_var& step) = 0;
     /// Gravity.

@@ -30,6 +30,13 @@ public:
     static HRESULT GetAnalysisSets(VEXListValVEXBaseUnknown_var& sets, VEXDocument* document,
                                    VEXUnicodeString lateType);
 
+    /// Appends the jobs in the job containers of the cases, in order.
+    /// @param cases  each an analysis case of an open document
+    /// @return S_OK, also when there is none; E_INVALIDARG, nothing appended, for an entry that is
+    /// no analysis case
+    static HRESULT GetJobs(const VEXListValVEXBaseUnknown_var& cases,
+                           VEXListValVEXBaseUnknown_var& jobs);
+
     /// The document that holds an analysis case, not counted; null for an empty handle or a case
     /// whose document is gone.
     static VEXDocument* GetDocument(const VEXISamAnalysisCase_var& analysisCase);

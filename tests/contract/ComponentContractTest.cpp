@@ -6,6 +6,7 @@
 #include "VEXDocumentServices.h"
 #include "VEXFeatures.h"
 #include "VEXMetaClass.h"
+#include "host/analysis/EntityParameter.h"
 #include "host/component/ComponentTypes.h"
 #include "host/feature/Document.h"
 #include "host/part/Body.h"
@@ -54,7 +55,7 @@ private:
         }
     }
 
-    /// One feature of each late type, and one attribute.
+    /// One feature of each late type, attributes, and a parameter.
     void AddFeatures()
     {
         vex::FeatureTree& tree = vex::Document::From(_documents.front())->Tree();
@@ -69,6 +70,9 @@ private:
             _objects.push_back(VEXAdopt((*attributes)[i]));
         }
         delete attributes;
+        vex::Feature& gravity =
+            tree.Create(vex::LateTypes::Instance().Require("HLXGravity"), tree.Roots().front());
+        _objects.push_back(vex::ParameterOf(gravity, "ComponentX"));
     }
 
     void AddServices()

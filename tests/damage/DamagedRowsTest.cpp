@@ -49,7 +49,7 @@ TEST_F(DamagedRows, PlacesInTheTree)
         {{"UPDATE feature SET id = 1 WHERE parent = 0 AND id > 1",
           "feature 1: its id stands twice"},
          {"UPDATE feature SET id = 0 WHERE parent = 0 AND id > 1",
-          "table feature, row 1628: feature 0: its id is not positive"},
+          "table feature, row 1631: feature 0: its id is not positive"},
          {"UPDATE feature SET id = -5 WHERE position = 3",
           "table feature, row 3: feature -5: its id is not positive"},
          {"UPDATE feature SET parent = 99999 WHERE position = 3",

@@ -102,9 +102,10 @@ class Part : public Face<VEXIPartRequest>
 {
 public:
     Part(OwnFeature& owner, OwnFeature& mainBody) : Face(owner), _mainBody(mainBody) {}
-    VEXISpecObject_var GetMainBody(const VEXUnicodeString&) const override
+    HRESULT GetMainBody(const VEXUnicodeString&, VEXISpecObject_var& mainBody) const override
     {
-        return VEXShare<VEXISpecObject>(&_mainBody);
+        mainBody = VEXShare<VEXISpecObject>(&_mainBody);
+        return S_OK;
     }
 
 private:

@@ -66,7 +66,7 @@ TEST_F(StaticSupportDataTest, TheCellsAreReachedStepByStep)
         CallsOf([&] { Utils::GetSupportDataFromPartFeat(part, faces, edges, vertices, body); }),
         (std::vector<std::string>{
             "cast:VEXPart->VEXIPartRequest(&)",
-            "VEXIPartRequest::GetMainBody(\"\")",
+            "VEXIPartRequest::GetMainBody(\"\", &)",
             "cast:VEXMechanicalTool->VEXIMechanicalTool(&)",
             "cast:VEXMechanicalTool->VEXIBodyRequest(&)",
             "VEXIBodyRequest::GetResults(\"MfDefault3DView\", &)",

@@ -85,7 +85,7 @@ TEST_F(CellIterationTest, LooksForTheBodyFirstWhenThereIsNone)
     ASSERT_EQ(testCase.InitializeMechanicalPart(), S_OK);
     VEXListPtrVEXCell list;
     EXPECT_EQ(CallsOf([&] { Take(list, 1, 2); }),
-              Together({{"cast:VEXPart->VEXIPartRequest(&)", "VEXIPartRequest::GetMainBody(\"\")",
+              Together({{"cast:VEXPart->VEXIPartRequest(&)", "VEXIPartRequest::GetMainBody(\"\", &)",
                          "cast:VEXMechanicalTool->VEXIMechanicalTool(&)",
                          "VEXIMechanicalTool::GetLastShapedObject()",
                          "cast:VEXImportedShape->VEXIGeometricalElement(&)",

@@ -32,7 +32,7 @@ const Calls kToTheMechanicalPart =
                                });
 const Calls kFromThereToTheElement{
     "cast:VEXPart->VEXIPartRequest(&)",
-    "VEXIPartRequest::GetMainBody(\"\")",
+    "VEXIPartRequest::GetMainBody(\"\", &)",
     "cast:VEXMechanicalTool->VEXIMechanicalTool(&)",
     "VEXIMechanicalTool::GetLastShapedObject()",
     "cast:VEXImportedShape->VEXIGeometricalElement(&)",

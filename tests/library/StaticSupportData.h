@@ -28,8 +28,10 @@ protected:
     VEXBody_var PlatformBody()
     {
         const VEXIPartRequest_var request = part;
-        const VEXIMechanicalTool_var mainBody = request->GetMainBody("");
-        return VEXIGeometricalElement_var(mainBody->GetLastShapedObject())->GetBody();
+        VEXISpecObject_var mainBody;
+        EXPECT_EQ(request->GetMainBody("", mainBody), S_OK);
+        const VEXIMechanicalTool_var tool = mainBody;
+        return VEXIGeometricalElement_var(tool->GetLastShapedObject())->GetBody();
     }
 
     /// The last cells of a list are those of the platform's body, in its order.

@@ -139,6 +139,7 @@ TEST_P(EveryForm, NoAliasChangesAnythingButItself)
         const std::vector<DeckLine> lines = ReadDeck(deck);
         EXPECT_EQ(OutlineOf(lines), outline);
         EXPECT_EQ(lines.at(1).texts, std::vector{name.bytes}) << "the heading";
+        EXPECT_EQ(lines.at(2).texts, std::vector(2, name.bytes)) << "the case and its job";
         for (const char* const keyword :
              {"CASE", "HISTORY", "STEP", "LOADS", "GRAVITY", "TABULAR AMPLITUDE"}) {
             const std::vector<DeckLine> found = LinesOf(lines, keyword);

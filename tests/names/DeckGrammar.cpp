@@ -90,14 +90,31 @@ bool ReadDataLine(std::string_view rest, DeckLine& line)
     return rest.empty();
 }
 
-/// The comments of a deck: three headings, the place of a mesh, an instance of the flat form.
+/// Behind "jobs of ": the case and its jobs.
+bool ReadJobs(std::string_view rest, DeckLine& line)
+{
+    if (!TakeQuoted(rest, line.texts.emplace_back()) || !Take(rest, ": ")) return false;
+    do {
+        if (!Take(rest, "(no name)") && !TakeQuoted(rest, line.texts.emplace_back())) return false;
+        Take(rest, " (one part)");
+    } while (Take(rest, ", "));
+    return rest.empty();
+}
+
+/// The comments of a deck: three headings, the place of a mesh, what is not expected in a step, the
+/// jobs of a case, an instance of the flat form, a region of no instance.
 bool ReadComment(std::string_view rest, DeckLine& line)
 {
     for (const std::string_view known : {"structure", "model", "cases", "mesh: none"}) {
         if (rest == known) return true;
     }
-    return Take(rest, "instance ") && TakeQuoted(rest, line.texts.emplace_back()) &&
-           Take(rest, " of part ") && TakeQuoted(rest, line.texts.emplace_back()) && rest.empty();
+    if (Take(rest, "jobs of ")) return ReadJobs(rest, line);
+    if (Take(rest, "not expected in a")) return rest.find('"') == std::string_view::npos;
+    const bool isInstance = Take(rest, "instance ");
+    return (isInstance || Take(rest, "not in the structure: ")) &&
+           TakeQuoted(rest, line.texts.emplace_back()) &&
+           Take(rest, isInstance ? " of part " : " of ") &&
+           TakeQuoted(rest, line.texts.emplace_back()) && rest.empty();
 }
 
 /// Follows the blocks and the data lines that were announced.
@@ -115,10 +132,11 @@ public:
         }
         if (!Take(text, '*')) {
             line.kind = DeckLine::Data;
-            const bool isHeading = _keyword == "HEADING";
-            const bool isAnnounced = isHeading || _announced > 0;
-            _announced -= !isHeading && isAnnounced ? 1U : 0U;
-            return isAnnounced && ReadDataLine(text, line) && isHeading == !line.texts.empty();
+            const bool isOfNames =
+                _keyword == "HEADING" || _keyword == "SUPPORT" || _keyword == "AXIS";
+            const bool isAnnounced = isOfNames || _announced > 0;
+            _announced -= !isOfNames && isAnnounced ? 1U : 0U;
+            return isAnnounced && ReadDataLine(text, line) && isOfNames == !line.texts.empty();
         }
         line.kind = DeckLine::Keyword;
         if (_announced != 0 || !ReadKeywordLine(text, line, _announced)) return false;

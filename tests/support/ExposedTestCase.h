@@ -24,6 +24,8 @@ public:
     }
 
     using HLXBaseTestCase::AddAnalysisCase;
+    using HLXBaseTestCase::CreateStep;
+    using HLXBaseTestCase::CreateTabularAmplitude;
     using HLXBaseTestCase::CreateTimeLoggingFile;
     using HLXBaseTestCase::DumpFeatTree;
     using HLXBaseTestCase::GetAnalysisManager;

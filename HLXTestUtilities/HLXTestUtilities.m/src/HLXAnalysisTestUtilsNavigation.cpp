@@ -131,7 +131,9 @@ HRESULT HLXAnalysisTestUtils::GetSupportDataFromPartFeat(VEXISpecObject_var& par
 {
     const VEXIPartRequest_var part = partFeature;
     if (part == nullptr) return Fail("Cannot get VEXIPartRequest for MechanicalPart feature");
-    const VEXISpecObject_var mainBody = part->GetMainBody("");
+    VEXISpecObject_var mainBody;
+    // The handle tells, the result is not looked at; kept.
+    part->GetMainBody("", mainBody);
     if (mainBody == nullptr) return Fail("Cannot retrieve MainBody");
 
     const VEXIMechanicalTool_var tool = mainBody;

@@ -132,7 +132,9 @@ long HLXBaseTestCase::GetGeometricalElement(VEXIGeometricalElement_var& element)
     if (part == nullptr) {
         return LogError("Cannot get VEXIPartRequest for MechanicalPart feature");
     }
-    const VEXISpecObject_var mainBody = part->GetMainBody("");
+    VEXISpecObject_var mainBody;
+    // The handle tells, the result is not looked at; kept.
+    part->GetMainBody("", mainBody);
     if (mainBody == nullptr) return LogError("Cannot retrieve MainBody");
     const VEXIMechanicalTool_var tool = mainBody;
     if (tool == nullptr) return LogError("Cannot get VEXIMechanicalTool");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The library's messages on standard output: bytes as they are, whatever locale, width or flags the
-// stream was left with.
+// The library's messages on standard output, and some on standard error: bytes as they are,
+// whatever locale, width or flags the stream was left with.
 #pragma once
 
 #include "VEXUnicodeString.h"
@@ -40,6 +40,29 @@ void Print(const Texts&... texts)
 inline void EndLineAndFlush()
 {
     std::cout << std::endl;
+}
+
+/// Prints the texts, ends the line and flushes.
+template <class... Texts>
+void PrintLine(const Texts&... texts)
+{
+    Print(texts...);
+    EndLineAndFlush();
+}
+
+/// As PrintLine, with the failure that the message is about for an answer.
+inline HRESULT Fail(const char* message)
+{
+    PrintLine(message);
+    return E_FAIL;
+}
+
+/// As Fail, on standard error.
+inline HRESULT FailOnStandardError(const char* message)
+{
+    std::cerr.write(message, static_cast<std::streamsize>(std::string_view(message).size()));
+    std::cerr << std::endl;
+    return E_FAIL;
 }
 
 }  // namespace HLXConsole

@@ -60,6 +60,7 @@ class AnalysisModelAdapter final : public Adapter<VEXISamAnalysisModel, Feature>
 public:
     using Adapter::Adapter;
     HRESULT GetAnalysisCases(VEXListValVEXBaseUnknown_var& cases) const override;
+    HRESULT GetMeshNegotiator(VEXISamMeshNegotiator*& negotiator) const override;
 };
 
 /// Of a case: its children that are sets, or where a child groups sets, that child's.

@@ -12,6 +12,17 @@ HRESULT AnalysisModelAdapter::GetAnalysisCases(VEXListValVEXBaseUnknown_var& cas
         [&] { return AppendChildren<VEXISamAnalysisCase>(Self(), cases); }, Out(cases));
 }
 
+HRESULT AnalysisModelAdapter::GetMeshNegotiator(VEXISamMeshNegotiator*& negotiator) const
+{
+    return Probe<"VEXISamAnalysisModel::GetMeshNegotiator">(
+        [&]() -> HRESULT {
+            const Feature* const self = Self().Tree() == nullptr ? nullptr : &Self();
+            negotiator = FaceOf<VEXISamMeshNegotiator>(self).Detach();
+            return negotiator == nullptr ? E_FAIL : S_OK;
+        },
+        Out(negotiator));
+}
+
 HRESULT AnalysisCaseAdapter::GetAnalysisSets(VEXListValVEXBaseUnknown_var& sets) const
 {
     return Probe<"VEXISamAnalysisCase::GetAnalysisSets">(

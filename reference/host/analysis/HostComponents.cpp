@@ -4,6 +4,8 @@
 // VEXFeature.
 #include "host/analysis/AnalysisAdapters.h"
 #include "host/analysis/AnalysisStructure.h"
+#include "host/analysis/EntityAdapters.h"
+#include "host/analysis/EntityParameter.h"
 #include "host/component/HostLibrary.h"
 #include "host/feature/DocumentAdapters.h"
 #include "host/feature/DocumentSession.h"
@@ -24,10 +26,15 @@ constexpr VEXInterfaceRow analysisContainer[] = {InterfaceRow<AnalysisContainerA
 constexpr VEXInterfaceRow analysisManager[] = {InterfaceRow<AnalysisManagerAdapter>(),
                                                InterfaceRow<DocumentManagerAdapter>()};
 constexpr VEXInterfaceRow analysisModel[] = {InterfaceRow<AnalysisModelAdapter>(),
+                                             InterfaceRow<MeshNegotiatorAdapter>(),
                                              InterfaceRow<NavigateAdapter>()};
 constexpr VEXInterfaceRow analysisCase[] = {InterfaceRow<AnalysisCaseAdapter>(),
                                             InterfaceRow<NavigateAdapter>()};
 constexpr VEXInterfaceRow analysisSet[] = {InterfaceRow<AnalysisSetAdapter>()};
+constexpr VEXInterfaceRow analysisEntity[] = {InterfaceRow<AnalysisEntityAdapter>(),
+                                              InterfaceRow<AnalysisSupportAdapter>()};
+constexpr VEXInterfaceRow support[] = {InterfaceRow<SupportAdapter>()};
+constexpr VEXInterfaceRow parameter[] = {InterfaceRow<ParameterAdapter>()};
 
 HRESULT Start()
 {
@@ -74,6 +81,9 @@ const VEXComponentLibrary& HostComponentLibrary()
         {"VEXSamAnalysisModel", "VEXSamAnalysisObject", analysisModel, nullptr},
         {"VEXSamAnalysisCase", "VEXSamAnalysisObject", analysisCase, nullptr},
         {"VEXSamAnalysisSet", "VEXSamAnalysisObject", analysisSet, nullptr},
+        {"VEXSamAnalysisEntity", "VEXFeature", analysisEntity, nullptr},
+        {"VEXSamSupport", "VEXFeature", support, nullptr},
+        {"VEXSamParameter", nullptr, parameter, nullptr},
     };
     static const VEXComponentLibrary library = {VEXComponentLibraryVersion, "VEXHost", components,
                                                 &Start};

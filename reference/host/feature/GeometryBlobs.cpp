@@ -2,6 +2,11 @@
 // Geometry blobs: in memory, or still in the document's file.
 #include "host/feature/GeometryBlobs.h"
 
+#include "host/system/Digest.h"
+
+#include <fmt/format.h>
+
+#include <iterator>
 #include <utility>
 
 namespace vex {
@@ -9,7 +14,7 @@ namespace vex {
 std::uint64_t GeometryBlobs::Add(std::vector<std::byte> bytes)
 {
     const std::uint64_t number = _blobs.empty() ? 1 : _blobs.rbegin()->first + 1;
-    _blobs.emplace(number, Blob{std::move(bytes), true});
+    _blobs.emplace(number, Blob{std::move(bytes), true, {}});
     return number;
 }
 
@@ -39,6 +44,21 @@ bool GeometryBlobs::Read(std::uint64_t number, std::span<const std::byte>& bytes
     blob.loaded = true;
     bytes = blob.bytes;
     return true;
+}
+
+const std::string* GeometryBlobs::Digest(std::uint64_t number, std::string& error)
+{
+    std::span<const std::byte> bytes;
+    if (!Read(number, bytes, error)) {
+        return nullptr;
+    }
+    std::string& digest = _blobs.at(number).digest;
+    if (digest.empty()) {
+        for (const std::byte byte : system::DigestOf(bytes)) {
+            fmt::format_to(std::back_inserter(digest), "{:02x}", std::to_integer<unsigned>(byte));
+        }
+    }
+    return &digest;
 }
 
 std::vector<std::uint64_t> GeometryBlobs::Numbers() const

@@ -33,6 +33,10 @@ public:
     /// False with the reason in `error`.
     bool Read(std::uint64_t number, std::span<const std::byte>& bytes, std::string& error);
 
+    /// The digest of the blob's bytes, in hexadecimal; reckoned once. Null with the reason in
+    /// `error`, as Read; else it lives as long as the blob.
+    const std::string* Digest(std::uint64_t number, std::string& error);
+
     /// All numbers, ascending.
     std::vector<std::uint64_t> Numbers() const;
 
@@ -41,6 +45,7 @@ private:
     {
         std::vector<std::byte> bytes;
         bool loaded = false;
+        std::string digest;  ///< empty: not asked for yet
     };
 
     std::map<std::uint64_t, Blob> _blobs;

@@ -21,6 +21,7 @@ struct AttributeDefinition
     std::string name;
     ValueKind kind = ValueKind::Text;
     Value defaultValue;
+    bool listed = true;  ///< in tree dumps and input files
 };
 
 /// One type as a catalogue writes it: the name of its base (empty for none) and the attributes it

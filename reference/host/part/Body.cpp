@@ -3,11 +3,7 @@
 #include "host/part/Body.h"
 
 #include "host/part/BRepAccesses.h"
-#include "host/system/Digest.h"
 
-#include <fmt/format.h>
-
-#include <iterator>
 #include <map>
 #include <utility>
 
@@ -89,12 +85,11 @@ bool Body::IsGone() const
 
 const std::string& Body::ShapeDigest()
 {
-    std::span<const std::byte> bytes;
     std::string error;
-    if (_digest.empty() && _part->Geometry(static_cast<std::uint64_t>(_number), bytes, error)) {
-        for (const std::byte byte : system::DigestOf(bytes)) {
-            fmt::format_to(std::back_inserter(_digest), "{:02x}", std::to_integer<unsigned>(byte));
-        }
+    if (_digest.empty()) {
+        const std::string* const digest =
+            _part->Blobs().Digest(static_cast<std::uint64_t>(_number), error);
+        _digest = digest == nullptr ? std::string() : *digest;
     }
     return _digest;
 }

@@ -40,15 +40,17 @@ class PartRequestAdapter final : public Adapter<VEXIPartRequest, Feature>
 public:
     using Adapter::Adapter;
 
-    VEXISpecObject_var GetMainBody(const VEXUnicodeString& viewContext) const override
+    HRESULT GetMainBody(const VEXUnicodeString& viewContext,
+                        VEXISpecObject_var& mainBody) const override
     {
         return Probe<"VEXIPartRequest::GetMainBody">(
-            [&] {
-                return IsModelView(viewContext)
-                           ? FaceOf<VEXISpecObject>(FirstChild<VEXIMechanicalTool>(Self()))
-                           : VEXISpecObject_var();
+            [&]() -> HRESULT {
+                mainBody = IsModelView(viewContext)
+                               ? FaceOf<VEXISpecObject>(FirstChild<VEXIMechanicalTool>(Self()))
+                               : VEXISpecObject_var();
+                return mainBody == nullptr ? E_FAIL : S_OK;
             },
-            In(viewContext));
+            In(viewContext), Out(mainBody));
     }
 };
 

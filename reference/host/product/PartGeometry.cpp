@@ -8,9 +8,39 @@
 #include "host/system/MessageTexts.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace vex {
+
+namespace {
+
+/// The number of the geometry that a document's part has; none, with file and remedy in `error`,
+/// when it has no part or the part no geometry.
+std::optional<std::uint64_t> PresentNumber(const Document& document, std::string& error)
+{
+    if (!document.IsOpen() || PartOf(document) == nullptr) {
+        error =
+            system::Quoted(document.Path()) + ": it holds no part. Name an open .VEXPart document.";
+        return std::nullopt;
+    }
+    const std::int64_t number = GeometryNumber(document);
+    if (number == 0) {
+        error = system::Quoted(document.Path()) +
+                ": the part has no geometry. Import one from a STEP file.";
+        return std::nullopt;
+    }
+    return static_cast<std::uint64_t>(number);
+}
+
+/// What was wrong with the file itself names it.
+void NameFile(const Document& document, std::string& error)
+{
+    const std::string file = system::Quoted(document.Path()) + ": ";
+    if (!error.starts_with(file)) error.insert(0, file);
+}
+
+}  // namespace
 
 std::int64_t GeometryNumber(const Document& document)
 {
@@ -30,36 +60,34 @@ bool GiveGeometry(Document& document, std::vector<std::byte> shape)
     return true;
 }
 
+const std::string* ShapeDigest(Document& part, std::string& error)
+{
+    const std::optional<std::uint64_t> number = PresentNumber(part, error);
+    if (!number) {
+        return nullptr;
+    }
+    const std::string* const digest = part.Blobs().Digest(*number, error);
+    if (digest == nullptr) {
+        NameFile(part, error);
+    }
+    return digest;
+}
+
 PartGeometry::PartGeometry(Document& part) : _part(&part)
 {
     part.AddRef();
-}
-
-bool PartGeometry::Bytes(std::span<const std::byte>& bytes, std::string& error)
-{
-    const std::string file = system::Quoted(_part->Path()) + ": ";
-    if (!_part->IsOpen() || PartOf(*_part) == nullptr) {
-        error = file + "it holds no part. Name an open .VEXPart document.";
-        return false;
-    }
-    const std::int64_t number = GeometryNumber(*_part);
-    if (number == 0) {
-        error = file + "the part has no geometry. Import one from a STEP file.";
-        return false;
-    }
-    if (!_part->Geometry(static_cast<std::uint64_t>(number), bytes, error)) {
-        // What was wrong with the file itself names it.
-        if (!error.starts_with(file)) error.insert(0, file);
-        return false;
-    }
-    return true;
 }
 
 ShapeModel* PartGeometry::Shape(std::string& error)
 {
     if (_shape == nullptr) {
         std::span<const std::byte> bytes;
-        if (!Bytes(bytes, error)) {
+        const std::optional<std::uint64_t> number = PresentNumber(*_part, error);
+        if (!number) {
+            return nullptr;
+        }
+        if (!_part->Geometry(*number, bytes, error)) {
+            NameFile(*_part, error);
             return nullptr;
         }
         GeometryKernel* const kernel = LoadGeometryKernel(ComponentTypes::SearchPath(), error);

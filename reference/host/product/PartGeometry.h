@@ -20,6 +20,11 @@ VEX_EXPORT std::int64_t GeometryNumber(const Document& document);
 /// shape for it. False when the document holds no part.
 VEX_EXPORT bool GiveGeometry(Document& document, std::vector<std::byte> shape);
 
+/// The digest of the bytes of a part document's geometry, in hexadecimal; reckoned once for each
+/// geometry. Null, with file and remedy in `error`, for a document that is no part, was removed,
+/// has no geometry, or whose geometry is damaged.
+VEX_EXPORT const std::string* ShapeDigest(Document& part, std::string& error);
+
 /// Holds a reference of the document as long as it lives.
 class VEX_EXPORT PartGeometry
 {
@@ -32,8 +37,6 @@ public:
     ShapeModel* Shape(std::string& error);
 
 private:
-    bool Bytes(std::span<const std::byte>& bytes, std::string& error);
-
     DocumentHolder _part;
     std::unique_ptr<ShapeModel> _shape;
 };

@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 namespace vex::probe {
 
@@ -43,6 +44,12 @@ template <class Value>
 std::string TextOf(const VEXList<Value>& list)
 {
     return "[" + TextOfNumber(std::int64_t{list.Size()}) + "]";
+}
+
+template <class Value>
+std::string TextOf(const std::vector<Value>& array)
+{
+    return "[" + TextOfNumber(static_cast<std::int64_t>(array.size())) + "]";
 }
 
 template <class Interface>

@@ -5,6 +5,7 @@
 #include "host/analysis/AnalysisObjects.h"
 #include "host/system/Probe.h"
 #include "product/cases/AnalysisCaseBuilder.h"
+#include "product/cases/AnalysisDocuments.h"
 
 namespace hlx {
 
@@ -36,16 +37,13 @@ HRESULT AnalysisCaseFactory::CreateAnalysisCase(VEXISamAnalysisCase*& analysisCa
     return Probe<"HLXIHacAnalysisCaseFact::CreateAnalysisCase">(
         [&]() -> HRESULT {
             analysisCase = nullptr;
-            const vex::Document* const owner = vex::Document::From(document);
-            if (owner == nullptr || owner->DocType() != vex::DocumentType::Analysis ||
-                type < HLXIAnalysisCase::StructuralAnalysis ||
+            const vex::Document* const owner = AnalysisDocument(document);
+            if (owner == nullptr || type < HLXIAnalysisCase::StructuralAnalysis ||
                 type > HLXIAnalysisCase::FrequencyAnalysis) {
                 return E_INVALIDARG;
             }
-            const vex::Feature* const manager = vex::AnalysisManagerOf(*owner);
-            vex::Feature* const model =
-                manager == nullptr ? nullptr : manager->Target("CurrentModel");
-            if (model == nullptr || !vex::Offers<VEXISamAnalysisModel>(*model)) {
+            vex::Feature* const model = CurrentModelOf(*owner);
+            if (model == nullptr) {
                 return E_FAIL;
             }
             const vex::Feature& made = AddAnalysisCase(*model, type);

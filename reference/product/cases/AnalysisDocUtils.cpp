@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // What an analysis document holds, found without going through its interfaces one by one.
+#include "HLXJobs.h"
 #include "HLXProductUtilities.h"
 #include "host/analysis/AnalysisObjects.h"
 #include "host/system/Probe.h"
+#include "product/cases/AnalysisDocuments.h"
 
+using hlx::AnalysisDocument;
 using vex::Document;
 using vex::DocumentArgument;
 using vex::Feature;
@@ -12,12 +15,6 @@ using vex::Out;
 using vex::Probe;
 
 namespace {
-
-const Document* AnalysisDocument(const VEXDocument* document)
-{
-    const Document* const found = Document::From(document);
-    return found == nullptr || found->DocType() != vex::DocumentType::Analysis ? nullptr : found;
-}
 
 /// As GetAllAnalysisCases.
 HRESULT AppendAllCases(const VEXDocument* document, VEXListValVEXBaseUnknown_var& cases)
@@ -89,6 +86,31 @@ HRESULT HLXAnalysisDocUtils::GetAnalysisSets(VEXListValVEXBaseUnknown_var& sets,
             return result;
         },
         Out(sets), In(DocumentArgument{document}), In(lateType));
+}
+
+HRESULT HLXAnalysisDocUtils::GetJobs(const VEXListValVEXBaseUnknown_var& cases,
+                                     VEXListValVEXBaseUnknown_var& jobs)
+{
+    return Probe<"HLXAnalysisDocUtils::GetJobs">(
+        [&]() -> HRESULT {
+            std::vector<const Feature*> found;
+            for (int i = 1; i <= cases.Size(); ++i) {
+                const Feature* const feature = vex::FeatureBehind(cases[i].Get());
+                if (feature == nullptr || !vex::Offers<VEXISamAnalysisCase>(*feature)) {
+                    return E_INVALIDARG;
+                }
+                found.push_back(feature);
+            }
+            for (const Feature* const analysisCase : found) {
+                for (const Feature* const container : analysisCase->Children()) {
+                    if (vex::Offers<HLXIJobFactory>(*container)) {
+                        vex::AppendChildren<HLXIJob>(*container, jobs);
+                    }
+                }
+            }
+            return S_OK;
+        },
+        In(cases), Out(jobs));
 }
 
 VEXDocument* HLXAnalysisDocUtils::GetDocument(const VEXISamAnalysisCase_var& analysisCase)

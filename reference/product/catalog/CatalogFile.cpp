@@ -194,7 +194,7 @@ private:
         }
         const std::string entry = owner + ", attribute " + vex::text::DoubleQuoted(attribute.name);
         std::string kindText;
-        if (!HasOnlyKeys(*table, {"name", "kind", "default"}, entry) ||
+        if (!HasOnlyKeys(*table, {"name", "kind", "default", "listed"}, entry) ||
             !ReadText(*table, "kind", entry, true, kindText)) {
             return false;
         }
@@ -216,6 +216,13 @@ private:
             return Refuse(LineOf(*given), entry,
                           "the default is none of kind " + vex::text::DoubleQuoted(kind->name) +
                               "; write " + std::string(kind->form));
+        }
+        if (const toml::node* const listed = table->get("listed"); listed != nullptr) {
+            if (!listed->is_boolean()) {
+                return Refuse(LineOf(*listed), entry,
+                              "\"listed\" is no boolean; write true or false");
+            }
+            attribute.listed = listed->as_boolean()->get();
         }
         const std::size_t held = ThingsHeld(attribute);
         known.held += held;

@@ -3,7 +3,12 @@
 #include "product/conditions/LoadFactory.h"
 
 #include "host/analysis/AnalysisObjects.h"
+#include "host/feature/FeatureTree.h"
 #include "host/system/Probe.h"
+#include "product/cases/AnalysisDocuments.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace hlx {
 
@@ -14,9 +19,28 @@ using vex::Probe;
 
 namespace {
 
-HRESULT NotMade()
+constexpr std::string_view heatFluxes[] = {
+    "HLXConcHeatFlux",
+    "HLXSurfaceHeatFlux",
+    "HLXBodyHeatFlux",
+};
+
+HRESULT Make(std::string_view lateType, VEXISpecObject_var& load, const VEXDocument* document,
+             const VEXISamAnalysisSet_var& step)
 {
-    return E_NOTIMPL;
+    const vex::Document* const owner = AnalysisDocument(document);
+    const vex::Feature* const found = vex::FeatureBehind(step.Get());
+    if (owner == nullptr || found == nullptr || found->Tree() != &owner->Tree() ||
+        !found->Kind().IsKindOf("HLXStepLT")) {
+        return E_INVALIDARG;
+    }
+    vex::Feature* const container = vex::FirstChildOfType(*found, "HLXLoadContainerLT");
+    if (container == nullptr) {
+        return E_FAIL;
+    }
+    load = vex::FaceOf<VEXISpecObject>(
+        &container->Tree()->Create(vex::LateTypes::Instance().Require(lateType), container));
+    return S_OK;
 }
 
 }  // namespace
@@ -24,43 +48,54 @@ HRESULT NotMade()
 HRESULT LoadFactory::CreatePressure(VEXISpecObject_var& load, VEXDocument* document,
                                     VEXISamAnalysisSet_var& step)
 {
-    return Probe<"HLXILoadFact::CreatePressure">(NotMade, Out(load), In(DocumentArgument{document}),
-                                                 In(step));
+    return Probe<"HLXILoadFact::CreatePressure">(
+        [&] { return Make("HLXPressure", load, document, step); }, Out(load),
+        In(DocumentArgument{document}), In(step));
 }
 
 HRESULT LoadFactory::CreateHeatFlux(VEXISpecObject_var& load, const VEXUnicodeString& lateType,
                                     VEXDocument* document, VEXISamAnalysisSet_var& step)
 {
-    return Probe<"HLXILoadFact::CreateHeatFlux">(NotMade, Out(load), In(lateType),
-                                                 In(DocumentArgument{document}), In(step));
+    return Probe<"HLXILoadFact::CreateHeatFlux">(
+        [&]() -> HRESULT {
+            const std::string_view type = lateType.View();
+            return std::ranges::find(heatFluxes, type) == std::end(heatFluxes)
+                       ? E_INVALIDARG
+                       : Make(type, load, document, step);
+        },
+        Out(load), In(lateType), In(DocumentArgument{document}), In(step));
 }
 
 HRESULT LoadFactory::CreateGravity(VEXISpecObject_var& load, VEXDocument* document,
                                    VEXISamAnalysisSet_var& step)
 {
-    return Probe<"HLXILoadFact::CreateGravity">(NotMade, Out(load), In(DocumentArgument{document}),
-                                                In(step));
+    return Probe<"HLXILoadFact::CreateGravity">(
+        [&] { return Make("HLXGravity", load, document, step); }, Out(load),
+        In(DocumentArgument{document}), In(step));
 }
 
 HRESULT LoadFactory::CreateRotationalBodyForce(VEXISpecObject_var& load, VEXDocument* document,
                                                VEXISamAnalysisSet_var& step)
 {
     return Probe<"HLXILoadFact::CreateRotationalBodyForce">(
-        NotMade, Out(load), In(DocumentArgument{document}), In(step));
+        [&] { return Make("HLXRotationalBodyForce", load, document, step); }, Out(load),
+        In(DocumentArgument{document}), In(step));
 }
 
 HRESULT LoadFactory::CreateConcentratedForce(VEXISpecObject_var& load, VEXDocument* document,
                                              VEXISamAnalysisSet_var& step)
 {
-    return Probe<"HLXILoadFact::CreateConcentratedForce">(NotMade, Out(load),
-                                                          In(DocumentArgument{document}), In(step));
+    return Probe<"HLXILoadFact::CreateConcentratedForce">(
+        [&] { return Make("HLXConcentratedForce", load, document, step); }, Out(load),
+        In(DocumentArgument{document}), In(step));
 }
 
 HRESULT LoadFactory::CreateFilmCondition(VEXISpecObject_var& load, VEXDocument* document,
                                          VEXISamAnalysisSet_var& step)
 {
-    return Probe<"HLXILoadFact::CreateFilmCondition">(NotMade, Out(load),
-                                                      In(DocumentArgument{document}), In(step));
+    return Probe<"HLXILoadFact::CreateFilmCondition">(
+        [&] { return Make("HLXFilmCondition", load, document, step); }, Out(load),
+        In(DocumentArgument{document}), In(step));
 }
 
 }  // namespace hlx

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The factory of loads. This release makes none: each operation answers E_NOTIMPL and changes
-// nothing.
+// The factory of loads.
 #pragma once
 
 #include "HLXILoadFact.h"

@@ -32,6 +32,12 @@ void Deck::Word(std::string_view name, std::string_view word)
     _text += word;
 }
 
+void Deck::Number(std::string_view name, std::int64_t number)
+{
+    Word(name, "");
+    vex::text::AppendNumber(_text, number);
+}
+
 void Deck::Quoted(std::string_view name, std::string_view text)
 {
     Parameter(name);

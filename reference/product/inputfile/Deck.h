@@ -3,6 +3,7 @@
 // Quoted, so that none can forge a line; lines have no greatest length.
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,6 +22,8 @@ public:
     void Parameter(std::string_view name);
     /// ", NAME=text" for words of this program and of the catalogue.
     void Word(std::string_view name, std::string_view word);
+    /// ", NAME=7"
+    void Number(std::string_view name, std::int64_t number);
     /// ", NAME="text""
     void Quoted(std::string_view name, std::string_view text);
     void EndLine() { _text += '\n'; }

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // Writes features with all their parameters and everything below them into a deck: steps and what
-// they contain, conditions, properties. Nothing that a case holds is left out, whatever its late
-// type.
+// they contain, conditions with their regions, properties. Nothing that a case holds is left out,
+// whatever its late type.
 #pragma once
 
 #include "product/inputfile/Deck.h"
+#include "product/inputfile/Expectations.h"
 #include "product/inputfile/Keywords.h"
+#include "product/inputfile/Regions.h"
 #include "product/treedump/FeaturePaths.h"
 
+#include <string>
 #include <vector>
 
 namespace hlx {
@@ -15,12 +18,15 @@ namespace hlx {
 class FeatureWriter
 {
 public:
-    /// References to features below `base` are written as paths from there. Deck and base outlive
-    /// this object.
-    FeatureWriter(Deck& deck, const vex::Feature& base) : _deck(deck), _paths(base) {}
+    /// References to features below `base` are written as paths from there. `regions` gathers what
+    /// the features are about. All outlive this object.
+    FeatureWriter(Deck& deck, const vex::Feature& base, Regions& regions)
+        : _deck(deck), _regions(regions), _paths(base)
+    {}
 
-    /// Writes `feature` and everything below it. Depth is bounded by memory only.
-    void Write(const vex::Feature& feature);
+    /// Writes `feature` and everything below it. Depth is bounded by memory only. False, with the
+    /// reason in `error`, when a region is refused (Regions::Use).
+    bool Write(const vex::Feature& feature, std::string& error);
 
 private:
     struct Level
@@ -28,13 +34,16 @@ private:
         const KeywordRule* rule;
         const vex::Feature* nextChild;  ///< null: all were written
         bool closed;                    ///< ends with an *END line
+        const StepExpectations* step;   ///< of the step that it is or stands in; null: of none
     };
 
-    void Open(const vex::Feature& feature, std::vector<Level>& levels);
+    bool Open(const vex::Feature& feature, std::vector<Level>& levels, std::string& error);
     void WriteParameters(const vex::Feature& feature);
     void WriteData(const vex::Feature& feature);
+    bool WriteRegion(const vex::Feature& feature, std::string& error);
 
     Deck& _deck;
+    Regions& _regions;
     FeaturePaths _paths;
 };
 

@@ -111,7 +111,7 @@ HRESULT Write(std::string_view path, const VEXListValVEXBaseUnknown_var& list)
         return result;
     }
     if (!MakeInputFile(cases, form, text, error)) {
-        return Refuse(E_FAIL, error + ". Nothing was written");
+        return Refuse(E_FAIL, error + (error.ends_with('.') ? "" : ".") + " Nothing was written");
     }
     return ReplaceFile(path, text);
 }

@@ -13,7 +13,8 @@ namespace hlx {
 enum class InputFileForm { Structured, Flat };
 
 /// Appends the text of the input file. The cases are in trees and of one analysis model. False,
-/// with the reason in `error`, when the structure that the analysis is linked to cannot be read.
+/// with the reason in `error`, when the structure that the analysis is linked to cannot be read or
+/// a region is not found in its part.
 bool MakeInputFile(const std::vector<vex::Feature*>& cases, InputFileForm form, std::string& text,
                    std::string& error);
 

@@ -99,6 +99,8 @@ constexpr KeywordRule rules[] = {
     {"HLXThermalConnBehaviorLT", "THERMAL CONNECTION"},
     {"HLXTiedContactLT", "TIED CONTACT"},
     {"HLXVelocityBCLT", "VELOCITY"},
+    {"VEXSamAxis", "AXIS"},
+    {"VEXSamSupport", "SUPPORT"},
 };
 
 constexpr KeywordRule genericRule = {"", "FEATURE"};

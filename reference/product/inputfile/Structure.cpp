@@ -191,10 +191,12 @@ bool StructureReader::Enter(Document& document, std::string name, const Placemen
                     " is no product or part; correct what leads to it");
     }
     if (document.DocType() == DocumentType::Part) {
-        const std::size_t part = PartOf(document, partNumber);
-        if (!CountName(_structure.parts[part].size())) return false;
-        const std::string& wish = name.empty() ? _structure.parts[part] + ".1" : name;
-        _structure.instances.push_back({_instanceNames.Make(wish), part, placement});
+        const std::size_t index = PartOf(document, partNumber);
+        StructurePart& part = _structure.parts[index];
+        if (!CountName(part.name.size())) return false;
+        part.instances.push_back(_structure.instances.size());
+        const std::string& wish = name.empty() ? part.name + ".1" : name;
+        _structure.instances.push_back({_instanceNames.Make(wish), index, placement});
         return true;
     }
     if (std::ranges::find(levels, &document, &Level::document) != levels.end()) {
@@ -231,11 +233,9 @@ std::size_t StructureReader::PartOf(const Document& document, std::string_view p
     if (isNew) {
         std::string name(partNumber);
         for (const Feature* const feature : document.SpecContainer()->Children()) {
-            if (name.empty()) {
-                name = feature->Alias();
-            }
+            if (name.empty()) name = feature->Alias();
         }
-        _structure.parts.push_back(_partNames.Make(name.empty() ? "Part" : name));
+        _structure.parts.push_back({_partNames.Make(name.empty() ? "Part" : name), &document, {}});
     }
     return part->second;
 }

@@ -14,6 +14,13 @@ class Document;
 
 namespace hlx {
 
+struct StructurePart
+{
+    std::string name;  ///< unique
+    const vex::Document* document;
+    std::vector<std::size_t> instances;  ///< index Structure::instances
+};
+
 struct PartInstance
 {
     std::string name;      ///< unique: aliases from the top down, joined by '/'
@@ -23,7 +30,7 @@ struct PartInstance
 
 struct Structure
 {
-    std::vector<std::string> parts;  ///< unique names, in the order of their first use
+    std::vector<StructurePart> parts;  ///< in the order of their first use
     std::vector<PartInstance> instances;
 };
 

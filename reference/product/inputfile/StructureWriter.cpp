@@ -12,22 +12,34 @@ namespace {
 
 constexpr std::string_view noMesh = "mesh: none";
 
+void WriteRegion(Deck& deck, std::string_view name, const Regions::OfPart::key_type& geometry)
+{
+    deck.Keyword("REGION");
+    deck.Quoted("NAME", name);
+    deck.Number("DIMENSION", geometry.first);
+    deck.Number("INDEX", geometry.second);
+    deck.EndLine();
+}
+
 }  // namespace
 
-void WriteStructured(Deck& deck, const Structure& structure)
+void WriteStructured(Deck& deck, const Structure& structure, const Regions& regions)
 {
-    for (const std::string& part : structure.parts) {
+    for (std::size_t part = 0; part < structure.parts.size(); ++part) {
         deck.Keyword("PART");
-        deck.Quoted("NAME", part);
+        deck.Quoted("NAME", structure.parts[part].name);
         deck.EndLine();
         deck.Comment(noMesh);
+        for (const auto& [geometry, name] : regions.Used(part)) {
+            WriteRegion(deck, name, geometry);
+        }
         deck.End("PART");
     }
     deck.KeywordLine("ASSEMBLY");
     for (const PartInstance& instance : structure.instances) {
         deck.Keyword("INSTANCE");
         deck.Quoted("NAME", instance.name);
-        deck.Quoted("PART", structure.parts[instance.part]);
+        deck.Quoted("PART", structure.parts[instance.part].name);
         deck.EndLine();
         for (std::size_t row = 0; row < 3; ++row) {
             deck.Data(std::span(instance.placement).subspan(4 * row, 4));
@@ -37,15 +49,18 @@ void WriteStructured(Deck& deck, const Structure& structure)
     deck.End("ASSEMBLY");
 }
 
-void WriteFlat(Deck& deck, const Structure& structure)
+void WriteFlat(Deck& deck, const Structure& structure, const Regions& regions)
 {
     for (const PartInstance& instance : structure.instances) {
         std::string text = "instance ";
         vex::text::AppendQuoted(text, instance.name);
         text += " of part ";
-        vex::text::AppendQuoted(text, structure.parts[instance.part]);
+        vex::text::AppendQuoted(text, structure.parts[instance.part].name);
         deck.Comment(text);
         deck.Comment(noMesh);
+        for (const auto& [geometry, name] : regions.Used(instance.part)) {
+            WriteRegion(deck, RegionOfInstance(instance, name), geometry);
+        }
     }
 }
 

@@ -31,11 +31,16 @@ constexpr std::string_view otherSteps[] = {
 
 }  // namespace
 
+Feature* HistoryOf(const Feature& analysisCase)
+{
+    return vex::FirstChildOfType(analysisCase, "HLXHacSimHistLT");
+}
+
 Feature* AddStep(Feature& analysisCase, std::string_view lateType, std::string_view name,
                  std::string& error)
 {
     vex::LateTypes& types = vex::LateTypes::Instance();
-    Feature* const history = vex::FirstChildOfType(analysisCase, "HLXHacSimHistLT");
+    Feature* const history = HistoryOf(analysisCase);
     const LateType* const kind = types.Find(lateType);
     if (history == nullptr) {
         error = "the feature is no analysis case with a simulation history; give an analysis case";

@@ -7,6 +7,9 @@
 
 namespace hlx {
 
+/// The simulation history of a case, below which its steps stand; null when there is none.
+vex::Feature* HistoryOf(const vex::Feature& analysisCase);
+
 /// Makes a step at the end of a case's simulation history.
 /// @param lateType  a kind of step, such as "HLXGeneralStaticStepLT" @param name  its alias; empty
 /// for none

@@ -103,7 +103,8 @@ void AppendAttributes(TextBuffer& out, const vex::Feature& feature, Labels& labe
     const std::vector<std::string>& texts = labels.Of(feature.Kind());
     feature.ForEachSet([&](int index, const vex::Value& value) {
         const auto place = static_cast<std::size_t>(index);
-        if (IsSame(value, feature.Kind().attributes[place].defaultValue)) {
+        const vex::AttributeDefinition& definition = feature.Kind().attributes[place];
+        if (!definition.listed || IsSame(value, definition.defaultValue)) {
             return;
         }
         out += texts[place];

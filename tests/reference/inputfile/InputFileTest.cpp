@@ -70,8 +70,9 @@ TEST_F(InputFile, OfACaseWithOneStep)
               "Stabilize=false, StabilizationFraction=2e-04\n"
               "*STATIC\n"
               "*LOADS\n"
-              "*GRAVITY, NAME=\"Gravity.1\", Active=true, Amplitude=\"Ramp\", UseAmplitude=true, "
-              "UserSubroutine=false, ComponentX=0, ComponentY=-9810, ComponentZ=0\n"
+              "*GRAVITY, NAME=\"Gravity.1\", Active=true, FollowsMesh=false, Amplitude=\"Ramp\", "
+              "UseAmplitude=true, UserSubroutine=false, ComponentX=0, ComponentY=-9810, "
+              "ComponentZ=0\n"
               "*END LOADS\n"
               "*BOUNDARY CONDITIONS\n"
               "*END BOUNDARY CONDITIONS\n"
@@ -150,6 +151,21 @@ TEST_F(InputFile, EveryKindOfValue)
               "Points=[0], Data=[2x3]\n"
               "1, 2, 3\n"
               "4, 5, 1e+30\n");
+}
+
+TEST_F(InputFile, AttributesThatTheCatalogueDoesNotListAreLeftOutWithTheirData)
+{
+    std::string error;
+    const vex::Boxed<vex::DoubleList> numbers({1, 2});
+    if (vex::LateTypes::Instance().Find("TstUnlisted") == nullptr) {
+        const auto kind = vex::ValueKind::List;
+        ASSERT_TRUE(vex::LateTypes::Instance().Add(
+            {{"TstUnlisted", "", {{"A", kind, numbers, false}, {"B", kind, numbers}}}}, error))
+            << error;
+    }
+    Feature& feature = Make("TstUnlisted", Model());
+    feature.Set("A", vex::Boxed<vex::DoubleList>({3, 4}));
+    EXPECT_EQ(TextOfModel(), "*FEATURE, TYPE=TstUnlisted, B=[2]\n1, 2\n");
 }
 
 TEST_F(InputFile, FeaturesBelowOthersStandInBlocks)

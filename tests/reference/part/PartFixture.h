@@ -50,7 +50,9 @@ protected:
 
     static VEXIMechanicalTool_var MainBodyOf(VEXDocument& document)
     {
-        return PartOf(document)->GetMainBody("");
+        VEXISpecObject_var mainBody;
+        EXPECT_EQ(PartOf(document)->GetMainBody("", mainBody), S_OK);
+        return mainBody;
     }
 
     static VEXIGeometricalElement_var ElementOf(VEXDocument& document)

@@ -48,13 +48,17 @@ TEST_F(PartWay, SeesNothingInOtherViewContexts)
     const VEXIBodyRequest_var request = MainBodyOf(document);
     for (const char* const context : {"", "MfDefault3DView"}) {
         VEXListValVEXBaseUnknown_var results;
-        EXPECT_TRUE(PartOf(document)->GetMainBody(context)) << context;
+        VEXISpecObject_var mainBody;
+        EXPECT_EQ(PartOf(document)->GetMainBody(context, mainBody), S_OK) << context;
+        EXPECT_TRUE(mainBody) << context;
         EXPECT_EQ(request->GetResults(context, results), S_OK);
         EXPECT_EQ(results.Size(), 1) << context;
     }
     for (const char* const context : {"MfFoldedView", "mfdefault3dview", " "}) {
         VEXListValVEXBaseUnknown_var results;
-        EXPECT_FALSE(PartOf(document)->GetMainBody(context)) << context;
+        VEXISpecObject_var mainBody = MainBodyOf(document);
+        EXPECT_EQ(PartOf(document)->GetMainBody(context, mainBody), E_FAIL) << context;
+        EXPECT_FALSE(mainBody) << context;
         EXPECT_EQ(request->GetResults(context, results), S_OK);
         EXPECT_EQ(results.Size(), 0) << context;
     }
@@ -93,7 +97,9 @@ TEST_F(PartWay, OfARemovedDocumentAnswersNothing)
     const VEXIMechanicalTool_var tool = MainBodyOf(document);
     const VEXIGeometricalElement_var element = ElementOf(document);
     ASSERT_EQ(VEXDocumentServices::Remove(document, 1), S_OK);
-    EXPECT_FALSE(part->GetMainBody(""));
+    VEXISpecObject_var mainBody = tool;
+    EXPECT_EQ(part->GetMainBody("", mainBody), E_FAIL);
+    EXPECT_FALSE(mainBody);
     EXPECT_FALSE(tool->GetLastShapedObject());
     VEXListValVEXBaseUnknown_var results;
     EXPECT_EQ(VEXIBodyRequest_var(tool)->GetResults("", results), E_FAIL);

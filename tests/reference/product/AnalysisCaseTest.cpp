@@ -2,7 +2,6 @@
 // Analysis cases and element behaviours through their factories.
 #include "reference/analysis/AnalysisFixture.h"
 
-#include "HLXILoadFact.h"
 #include "VEXComponents.h"
 
 namespace {
@@ -157,21 +156,6 @@ TEST_F(ElementBehavior, RefusesANullCase)
 {
     VEXISamAnalysisCase* analysisCase = nullptr;
     EXPECT_EQ(factory->CreateElementBehavior(analysisCase), E_INVALIDARG);
-}
-
-TEST(LoadFactory, MakesNoLoadYet)
-{
-    hlxtest::AnalysisDocument document(1);
-    const auto factory = Factory<HLXILoadFact>("HLXLoadFact");
-    VEXISpecObject_var load;
-    VEXISamAnalysisSet_var step;
-    EXPECT_EQ(factory->CreatePressure(load, document.Get(), step), E_NOTIMPL);
-    EXPECT_EQ(factory->CreateHeatFlux(load, "HLXConcHeatFlux", document.Get(), step), E_NOTIMPL);
-    EXPECT_EQ(factory->CreateGravity(load, document.Get(), step), E_NOTIMPL);
-    EXPECT_EQ(factory->CreateRotationalBodyForce(load, document.Get(), step), E_NOTIMPL);
-    EXPECT_EQ(factory->CreateConcentratedForce(load, document.Get(), step), E_NOTIMPL);
-    EXPECT_EQ(factory->CreateFilmCondition(load, document.Get(), step), E_NOTIMPL);
-    EXPECT_FALSE(load);
 }
 
 }  // namespace

@@ -105,6 +105,8 @@ const BadCatalog badCatalogs[] = {
          "[[type]]\nname = \"U\"\nbase = \"T\"\nattributes = [{ name = \"A\", kind = \"text\" }]",
      "line 7, type \"U\", attribute \"A\": the type or its base has it already; remove or rename "
      "one of the two"},
+    {"ListedIsText", WithAttribute("{ name = \"A\", kind = \"text\", listed = \"no\" }"),
+     "line 3, type \"T\", attribute \"A\": \"listed\" is no boolean; write true or false"},
     {"BooleanDefault", WithAttribute("{ name = \"A\", kind = \"boolean\", default = 1 }"),
      DEFAULT_REASON("boolean", "true or false")},
     {"IntegerDefault", WithAttribute("{ name = \"A\", kind = \"integer\", default = 1.0 }"),
@@ -169,6 +171,22 @@ TEST(CatalogFile, RefusesDeepNesting)
     std::string error;
     EXPECT_FALSE(hlx::ReadCatalog(text, "c.VEXfct", types, error));
     EXPECT_NE(error.find(": no TOML: "), std::string::npos) << error;
+}
+
+TEST(CatalogFile, ReadsWhatIsListed)
+{
+    std::vector<LateTypeDefinition> types;
+    std::string error;
+    ASSERT_TRUE(hlx::ReadCatalog(WithAttribute("{ name = \"A\", kind = \"text\" }, "
+                                               "{ name = \"B\", kind = \"text\", listed = false }, "
+                                               "{ name = \"C\", kind = \"text\", listed = true }"),
+                                 "c.VEXfct", types, error))
+        << error;
+    std::vector<bool> listed;
+    for (const vex::AttributeDefinition& attribute : types.at(0).attributes) {
+        listed.push_back(attribute.listed);
+    }
+    EXPECT_EQ(listed, (std::vector{true, false, true}));
 }
 
 TEST(CatalogFile, ReadsTypesAttributesAndDefaults)

@@ -6,18 +6,31 @@ namespace hlxtest {
 
 namespace {
 
+/// Each file of tests/golden/NAME is among the written ones, byte for byte.
+void ExpectGolden(const std::string& name, const Files& written)
+{
+    for (const auto& [file, bytes] : FilesIn(HLX_SOURCE_DIR "/tests/golden/" + name)) {
+        const auto found = written.find(file);
+        EXPECT_EQ(found == written.end() ? "" : found->second, bytes) << file;
+    }
+}
+
 TEST(GoldenFiles, TheDumpOfTheSampleIsUnchanged)
 {
     const SampleAnalysis sample(3, "GSS,SPS,RS,HTS,EDS");
     EXPECT_EQ(RunFileDump(sample.Input(), sample.Output()).code, 0);
     const Files written = FilesIn(sample.Output());
-    Files golden = FilesIn(HLX_SOURCE_DIR "/tests/golden");
-    EXPECT_EQ(golden.erase("README.md"), 1u);
-    EXPECT_EQ(NamesOf(written), NamesOf(golden));
-    for (const auto& [name, bytes] : golden) {
-        const auto found = written.find(name);
-        EXPECT_EQ(found == written.end() ? "" : found->second, bytes) << name;
-    }
+    ExpectGolden("HLXFileDump", written);
+    EXPECT_EQ(NamesOf(written), NamesOf(FilesIn(HLX_SOURCE_DIR "/tests/golden/HLXFileDump")));
+}
+
+TEST(GoldenFiles, TheLoadsOfTheBracketAreUnchanged)
+{
+    const SampleAnalysis sample(1);
+    const Ended ended = RunProgram({Program("bracket_loads"), sample.Input(), "sample.VEXAnalysis",
+                                    sample.Output(), "loads.inp"});
+    EXPECT_EQ(ended.code, 0) << ended.err;
+    ExpectGolden("bracket_loads", FilesIn(sample.Output()));
 }
 
 }  // namespace

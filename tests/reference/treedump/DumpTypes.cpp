@@ -27,7 +27,8 @@ void AddDumpTypes()
              {"Target", ValueKind::Reference, vex::Reference{}},
              {"Model", ValueKind::DocumentLink, vex::Boxed<vex::DocumentLink>()},
              {"Points", ValueKind::List, vex::Boxed<vex::DoubleList>(vex::DoubleList{1, 2})},
-             {"Data", ValueKind::Table, vex::Boxed<vex::DoubleTable>()}}};
+             {"Data", ValueKind::Table, vex::Boxed<vex::DoubleTable>()},
+             {"Digest", ValueKind::Integer, std::int64_t{0}, false}}};
         std::string error;
         EXPECT_TRUE(vex::LateTypes::Instance().Add({plain, load, all}, error)) << error;
         return true;

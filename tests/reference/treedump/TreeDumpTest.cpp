@@ -102,6 +102,14 @@ TEST_F(TreeDump, EmptyValuesThatAreNotTheDefault)
     EXPECT_EQ(Dump(root), "TstAll Label=\"\" Points=() Data=()\n");
 }
 
+TEST_F(TreeDump, WhatTheCatalogueDoesNotListIsLeftOut)
+{
+    Feature& root = Make("TstAll", nullptr);
+    EXPECT_EQ(root.Set("Digest", std::int64_t{7}), S_OK);
+    EXPECT_EQ(root.Set("Count", std::int64_t{7}), S_OK);
+    EXPECT_EQ(Dump(root), "TstAll Count=7\n");
+}
+
 TEST_F(TreeDump, DefaultsAreLeftOutEvenWhenSet)
 {
     Feature& root = Make("TstAll", nullptr);

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+// Steps that creating an entity in a step of the analysis consists of; each operation that creates
+// one calls them in an order of its own. All but the supports print nothing.
+#pragma once
+
+#include "HLXILoadFact.h"
+#include "HLXPartSupport.h"
+
+namespace HLXEntityCreation {
+
+/// How an entity is connected to what it is put on; at points the platform is given none.
+inline constexpr const char* smartConnector = "GeometrySmartConnector";
+
+/// The values of flags.
+inline constexpr unsigned char off = 0;
+inline constexpr unsigned char on = 1;
+
+/// Makes the load factory. Nobody releases it; kept.
+/// @param factory  receives it, null when there is none
+/// @return the platform's result
+HRESULT MakeLoadFactory(HLXILoadFact*& factory);
+
+/// Names a feature, if there is one and it can have a name.
+void SetAlias(const VEXISpecObject_var& feature, const VEXUnicodeString& name);
+
+/// The interface through which a new feature is put on geometry; empty when it has none.
+VEXISamAnalysisSupport_var SupportOf(const VEXISpecObject_var& created);
+
+/// Makes a tabular amplitude. @return S_OK; E_FAIL
+HRESULT MakeAmplitude(VEXDocument* document, VEXISpecObject_var& amplitude);
+
+/// Puts an entity on the first face of the part.
+/// @param message  printed when the face was found and refused as a support
+/// @return S_OK; E_FAIL
+HRESULT SupportOnFace(HLXPartSupport::Part& part, const VEXISamAnalysisSupport_var& support,
+                      const char* message);
+
+/// Puts an entity on the first vertex of the part. Prints " Failed to add support 1" on standard
+/// error when the vertex was found and refused as a support.
+/// @return S_OK; E_FAIL
+HRESULT SupportOnVertex(HLXPartSupport::Part& part, const VEXISamAnalysisSupport_var& support);
+
+}  // namespace HLXEntityCreation

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: Apache-2.0
+// From the types of operations to the values of attributes, and back.
+#include "host/feature/AttributeValues.h"
+
+#include "host/feature/FeatureSearch.h"
+
+#include <cmath>
+#include <utility>
+
+namespace vex {
+
+namespace {
+
+HRESULT ResultOf(const Feature& feature)
+{
+    return feature.Tree() == nullptr ? E_FAIL : S_OK;
+}
+
+}  // namespace
+
+HRESULT SetNumber(Feature& feature, std::string_view attribute, double number)
+{
+    if (feature.Tree() != nullptr && !std::isfinite(number)) {
+        return E_INVALIDARG;
+    }
+    return feature.Set(attribute, number);
+}
+
+HRESULT GetNumber(const Feature& feature, std::string_view attribute, double& number)
+{
+    const HRESULT result = ResultOf(feature);
+    number = FAILED(result) ? 0 : feature.GetAs<double>(attribute);
+    return result;
+}
+
+HRESULT SetFlag(Feature& feature, std::string_view attribute, unsigned char flag)
+{
+    return feature.Set(attribute, flag != 0);
+}
+
+HRESULT GetFlag(const Feature& feature, std::string_view attribute, unsigned char& flag)
+{
+    const HRESULT result = ResultOf(feature);
+    flag = SUCCEEDED(result) && feature.GetAs<bool>(attribute) ? 1 : 0;
+    return result;
+}
+
+HRESULT SetText(Feature& feature, std::string_view attribute, const VEXUnicodeString& text)
+{
+    return feature.Set(attribute, Boxed<std::string>(std::string(text.View())));
+}
+
+HRESULT GetText(const Feature& feature, std::string_view attribute, VEXUnicodeString& text)
+{
+    const HRESULT result = ResultOf(feature);
+    text = FAILED(result) ? VEXUnicodeString()
+                          : VEXUnicodeString(feature.GetAs<std::string>(attribute));
+    return result;
+}
+
+HRESULT SetNumbers(Feature& feature, std::string_view attribute, const VEXRawColldouble& numbers)
+{
+    DoubleList list;
+    for (int i = 1; i <= numbers.Size(); ++i) {
+        if (feature.Tree() != nullptr && !std::isfinite(numbers[i])) {
+            return E_INVALIDARG;
+        }
+        list.push_back(numbers[i]);
+    }
+    return feature.Set(attribute, Boxed<DoubleList>(std::move(list)));
+}
+
+HRESULT GetNumbers(const Feature& feature, std::string_view attribute, VEXRawColldouble& numbers)
+{
+    numbers.RemoveAll();
+    if (feature.Tree() == nullptr) {
+        return E_FAIL;
+    }
+    for (const double number : feature.GetAs<DoubleList>(attribute)) {
+        numbers.Append(number);
+    }
+    return S_OK;
+}
+
+HRESULT SetTarget(Feature& feature, std::string_view attribute, const VEXISpecObject_var& target,
+                  const IID& interface)
+{
+    if (feature.Tree() == nullptr) {
+        return E_FAIL;
+    }
+    if (!target) {
+        return feature.Set(attribute, Reference{});
+    }
+    const Feature* const found = FeatureBehind(target.Get());
+    if (found == nullptr || found->Tree() != feature.Tree() ||
+        found->Type().Find(interface) == nullptr) {
+        return E_INVALIDARG;
+    }
+    return feature.Set(attribute, Reference{found->Id()});
+}
+
+HRESULT GetTarget(const Feature& feature, std::string_view attribute, VEXISpecObject_var& target)
+{
+    target = FaceOf<VEXISpecObject>(feature.Target(attribute));
+    return ResultOf(feature);
+}
+
+}  // namespace vex

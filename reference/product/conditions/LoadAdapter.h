@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+// What loads have in common, behind the interface of each kind, which has the operations of
+// HLXILoad at the same places.
+#pragma once
+
+#include "HLXAmplitudes.h"
+#include "HLXLoads.h"
+#include "host/component/Adapter.h"
+#include "host/feature/AttributeValues.h"
+#include "host/system/Probe.h"
+
+namespace hlx {
+
+/// @tparam Interface  HLXILoad, or one that extends it
+template <class Interface>
+class LoadAdapter : public vex::Adapter<Interface, vex::Feature>
+{
+public:
+    using vex::Adapter<Interface, vex::Feature>::Adapter;
+
+    HRESULT SetAmplitude(const VEXISpecObject_var& amplitude) override
+    {
+        return vex::Probe<"HLXILoad::SetAmplitude">(
+            [&] { return vex::SetTarget<HLXIAmplitude>(this->Self(), "Amplitude", amplitude); },
+            vex::In(amplitude));
+    }
+
+    HRESULT SetUseAmplitude(unsigned char flag) override
+    {
+        return vex::Probe<"HLXILoad::SetUseAmplitude">(
+            [&] { return vex::SetFlag(this->Self(), "UseAmplitude", flag); }, vex::In(flag));
+    }
+
+    HRESULT GetAmplitude(VEXISpecObject_var& amplitude) const override
+    {
+        return vex::Probe<"HLXILoad::GetAmplitude">(
+            [&] { return vex::GetTarget(this->Self(), "Amplitude", amplitude); },
+            vex::Out(amplitude));
+    }
+
+    HRESULT GetUseAmplitude(unsigned char& flag) const override
+    {
+        return vex::Probe<"HLXILoad::GetUseAmplitude">(
+            [&] { return vex::GetFlag(this->Self(), "UseAmplitude", flag); }, vex::Out(flag));
+    }
+
+    HRESULT SetUserSubroutine(unsigned char flag) override
+    {
+        return vex::Probe<"HLXILoad::SetUserSubroutine">(
+            [&] { return vex::SetFlag(this->Self(), "UserSubroutine", flag); }, vex::In(flag));
+    }
+
+    HRESULT GetUserSubroutine(unsigned char& flag) const override
+    {
+        return vex::Probe<"HLXILoad::GetUserSubroutine">(
+            [&] { return vex::GetFlag(this->Self(), "UserSubroutine", flag); }, vex::Out(flag));
+    }
+};
+
+}  // namespace hlx

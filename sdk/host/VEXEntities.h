@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: Apache-2.0
+// Entities: what is applied to a region of the model in a step, such as a load. Their parameters
+// and their supports.
+#pragma once
+
+#include "VEXFeatures.h"
+#include "VEXProductStructure.h"
+
+/// A number of an entity that can be valued on its own. It holds its entity: a parameter whose
+/// entity is gone answers failure. Names of ours: all.
+class VEXIParameter : public VEXBaseUnknown
+{
+public:
+    /// Gives the entity another value.
+    /// @param value  in the units of the document
+    /// @return S_OK; E_INVALIDARG for a value that is not finite (the old one stays); E_FAIL when
+    /// the entity is gone
+    virtual HRESULT Valuate(double value) = 0;
+
+    /// The value; the catalogue's default when none was given.
+    /// @return S_OK; E_FAIL, and 0, when the entity is gone
+    virtual HRESULT GetValue(double& value) const = 0;
+};
+
+VEX_INTERFACE(VEXIParameter);
+
+/// Marks the entities among the features.
+class VEXISamAnalysisEntity : public VEXBaseUnknown
+{};
+
+VEX_INTERFACE(VEXISamAnalysisEntity);
+
+/// One support of an entity, a feature below it: geometry of a part, told by the part's document,
+/// what it is of it and the digest of the shape that it was taken from. Names of ours: all.
+class VEXISamSupport : public VEXBaseUnknown
+{
+public:
+    /// The geometry, found again in the part; the part's document is opened when it is not open.
+    /// @param geometry  receives a B-rep access to a face, edge or vertex, or a body; empty on
+    ///                  failure
+    /// @return S_OK; E_FAIL when the support is gone or, with the reason on standard error, when
+    /// the part cannot be opened or its shape is not the one that the support was taken from: it
+    /// never is other geometry
+    virtual HRESULT GetGeometry(VEXILinkableObject_var& geometry) const = 0;
+
+    /// The connector kind it was added with.
+    virtual VEXUnicodeString GetConnectorKind() const = 0;
+};
+
+VEX_INTERFACE(VEXISamSupport);
+
+/// The supports of an entity. Names of ours: GetSupports, AddSupport.
+class VEXISamAnalysisSupport : public VEXBaseUnknown
+{
+public:
+    /// Appends the supports, in the order in which they were added.
+    /// @return S_OK, also when there is none; E_FAIL when the entity is gone
+    virtual HRESULT GetSupports(VEXListValVEXBaseUnknown_var& supports) const = 0;
+
+    virtual HRESULT Reserved2() { return E_NOTIMPL; }
+
+    /// Adds a support at the end; what was added before stays.
+    /// @param geometry       a body of a part, a B-rep access, or a face, edge or vertex; of a part
+    ///                       whose document has been stored
+    /// @param part           the mechanical part that it is geometry of
+    /// @param connectorKind  how the entity is connected to it: "GeometrySmartConnector", or empty
+    ///                       where it acts on the point itself; other texts are kept as they are
+    /// @return S_OK; E_INVALIDARG for an empty handle, other geometry, geometry of another part, a
+    /// part that was never stored, or a kind that is not valid UTF-8; E_FAIL when the entity is
+    /// gone or, with the reason on standard error, the geometry is no longer that of the part
+    virtual HRESULT AddSupport(const VEXILinkableObject_var& geometry,
+                               const VEXISpecObject_var& part,
+                               const VEXUnicodeString& connectorKind) = 0;
+};
+
+VEX_INTERFACE(VEXISamAnalysisSupport);
