@@ -48,7 +48,8 @@ public:
     /// Up to 255 bytes: their number, then they.
     std::string Bytes()
     {
-        const std::size_t size = std::min<std::size_t>(Byte(), _rest.size());
+        const std::size_t wanted = Byte();
+        const std::size_t size = std::min(wanted, _rest.size());
         std::string bytes(TextOf(_rest.first(size)));
         _rest = _rest.subspan(size);
         return bytes;

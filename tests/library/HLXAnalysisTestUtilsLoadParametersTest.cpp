@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // Loads whose interface gives only some of their parameters: which ones a creation cannot do
 // without.
-#include "host/component/Adapter.h"
 #include "library/LoadFixture.h"
+#include "library/ReplacedInterface.h"
 #include "support/StandIns.h"
-
-#include <algorithm>
 
 namespace hlxtest::statics {
 namespace {
@@ -95,31 +93,6 @@ public:
     HRESULT GetComponentX(double&) const override { return E_FAIL; }
     HRESULT GetComponentY(double&) const override { return E_FAIL; }
     HRESULT GetComponentZ(double&) const override { return E_FAIL; }
-};
-
-/// Loads of a type get another adapter to its interface while the object lives.
-template <class StandIn>
-class ReplacedInterface
-{
-public:
-    explicit ReplacedInterface(const char* type)
-        : _entry(EntryOf(
-              const_cast<vex::ComponentType&>(vex::ComponentTypes::Instance().Require(type)))),
-          _former(std::exchange(_entry.make, &vex::MakeAdapter<StandIn>))
-    {}
-    ~ReplacedInterface() { _entry.make = _former; }
-    ReplacedInterface(const ReplacedInterface&) = delete;
-    ReplacedInterface& operator=(const ReplacedInterface&) = delete;
-
-private:
-    static vex::InterfaceEntry& EntryOf(vex::ComponentType& type)
-    {
-        return *std::ranges::find(type.interfaces, VEXInterfaceTraits<typename StandIn::Face>::Id,
-                                  &vex::InterfaceEntry::id);
-    }
-
-    vex::InterfaceEntry& _entry;
-    const VEXInterfaceMaker _former;
 };
 
 struct Row

@@ -99,6 +99,14 @@ TEST_F(SupportRefusal, OfAPartThatWasNeverStored)
     ExpectInvalid(CellOf(fresh, 1), PartFeature(*part));
 }
 
+TEST_F(SupportRefusal, OfAPartThatStandsInAnotherKindOfDocument)
+{
+    analysis.SaveAs(folder.File("a.VEXAnalysis"));
+    vex::Feature& part = Make("VEXPart", *Inside(*analysis.Get()).SpecContainer());
+    vex::Feature& stray = Make("VEXMechanicalTool", part);
+    ExpectInvalid(vex::FaceOf<VEXILinkableObject>(&stray), vex::FaceOf<VEXISpecObject>(&part));
+}
+
 TEST_F(SupportRefusal, OfAConnectorKindThatIsNoText)
 {
     for (const std::string& kind : {std::string("\xff"), std::string("a\0b", 3)}) {
