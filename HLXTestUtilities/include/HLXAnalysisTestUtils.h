@@ -107,8 +107,8 @@ public:
                              HLXIJob_var& job);
 
     /// Makes the two jobs of the tests that write input files: `jobName`, and one that writes one
-    /// part only, such as "Job-1" and "Job-1_SinglePart". Whether they took their names is not
-    /// looked at.
+    /// part only, such as "Job-1" and "Job-1_SinglePart"; HLXAnalysisDocUtils::GetJobs lists them.
+    /// Whether they took their names is not looked at.
     /// @return what the platform's error service makes of it: S_OK, or an error that came up on the
     ///         way; E_FAIL when a job could not be made or cannot have a name. The first one stays
     ///         when the second fails; it is taken for the second one, and named so, when the
@@ -128,8 +128,10 @@ public:
     //
     // Arguments: the open analysis document; the load's name; the load, received; the step.
     // Results: S_OK, or E_FAIL: with a message where one is named, silently when there is no
-    // amplitude, part, body or cell. Nothing is undone on failure: a load that was created stays in
-    // the step.
+    // amplitude, part, body or cell, and when gravity or concentrated force refuses the amplitude
+    // or the film condition a value. Whether a load took its other values, its flags and its name
+    // is not looked at: "Could not valuate" tells that there was no parameter to valuate. Nothing
+    // is undone on failure: a load that was created stays in the step.
 
     /// Gravity of -9.81 in Z, on the main body. "********** Could not create HLXLoadFact",
     /// "********** could not create gravity entity!", "********** Could not valuate gravity",

@@ -99,7 +99,9 @@ protected:
     /// @return the platform's result
     long NewDocument();
 
-    /// Makes `path` the input path and opens it. The former document is forgotten, not removed.
+    /// Makes `path` the input path and opens it. The former document is forgotten, not removed; the
+    /// other members keep what they have of it, so call the Initialize... operations again, those
+    /// of the part from InitializeContainerOfPartDocument on.
     /// @return as OpenDocument
     long SetCurrentDocument(const char* path);
 
@@ -238,7 +240,8 @@ protected:
     /// @param openMode  as for fopen, for example "w"
     void DumpFeatTree(char* openMode);
 
-    /// Saves a document in the output directory, over an existing file. Null saves nothing.
+    /// Saves a document in the output directory, over an existing file. Null saves nothing. The
+    /// document's StorageName tells whether it was saved.
     /// @param name  file name
     void SaveAsDocument(VEXDocument* document, VEXUnicodeString name);
 

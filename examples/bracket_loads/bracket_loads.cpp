@@ -5,7 +5,7 @@
 //   bracket_loads INPUT-DIR DOCUMENT OUTPUT-DIR INPUT-FILE
 //
 // The document has an analysis case and is linked to the bracket assembly. Ends with 1 when a step,
-// load or job could not be made or the input file not be written.
+// load or job could not be made, or document or input file not be written.
 #include "HLXAnalysisTestUtils.h"
 #include "HLXBaseTestCase.h"
 #include "HLXTestCaseDriver.h"
@@ -123,6 +123,8 @@ private:
     long WriteResults()
     {
         SaveAsDocument(_Document, "BracketLoads.VEXAnalysis");
+        // Nothing is said when that fails: the document tells where it is stored.
+        if (!_Document->StorageName().View().ends_with("/BracketLoads.VEXAnalysis")) return E_FAIL;
 
         VEXISamAnalysisManager_var manager;
         long rc = GetAnalysisManager(manager);

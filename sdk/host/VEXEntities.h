@@ -36,8 +36,8 @@ class VEXISamSupport : public VEXBaseUnknown
 {
 public:
     /// The geometry, found again in the part; the part's document is opened when it is not open.
-    /// @param geometry  receives a B-rep access to a face, edge or vertex, or a body; empty on
-    ///                  failure
+    /// @param geometry  receives a B-rep access to a face, edge or vertex, or the body's feature
+    ///                  (VEXIMechanicalTool, VEXIBodyRequest); empty on failure
     /// @return S_OK; E_FAIL when the support is gone or, with the reason on standard error, when
     /// the part cannot be opened or its shape is not the one that the support was taken from: it
     /// never is other geometry
@@ -60,14 +60,15 @@ public:
     virtual HRESULT Reserved2() { return E_NOTIMPL; }
 
     /// Adds a support at the end; what was added before stays.
-    /// @param geometry       a body of a part, a B-rep access, or a face, edge or vertex; of a part
-    ///                       whose document has been stored
+    /// @param geometry       the feature of a body (VEXIPartRequest::GetMainBody), a B-rep access,
+    ///                       or a face, edge or vertex; of a part whose document has been stored
     /// @param part           the mechanical part that it is geometry of
     /// @param connectorKind  how the entity is connected to it: "GeometrySmartConnector", or empty
     ///                       where it acts on the point itself; other texts are kept as they are
     /// @return S_OK; E_INVALIDARG for an empty handle, other geometry, geometry of another part, a
     /// part that was never stored, or a kind that is not valid UTF-8; E_FAIL when the entity is
-    /// gone or, with the reason on standard error, the geometry is no longer that of the part
+    /// gone or, with the reason on standard error, the geometry is no longer that of the part or
+    /// the part has none
     virtual HRESULT AddSupport(const VEXILinkableObject_var& geometry,
                                const VEXISpecObject_var& part,
                                const VEXUnicodeString& connectorKind) = 0;

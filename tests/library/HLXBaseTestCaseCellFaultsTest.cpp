@@ -84,13 +84,14 @@ TEST_F(CellIterationTest, LooksForTheBodyFirstWhenThereIsNone)
     BeginWithProduct("box");
     ASSERT_EQ(testCase.InitializeMechanicalPart(), S_OK);
     VEXListPtrVEXCell list;
-    EXPECT_EQ(CallsOf([&] { Take(list, 1, 2); }),
-              Together({{"cast:VEXPart->VEXIPartRequest(&)", "VEXIPartRequest::GetMainBody(\"\", &)",
-                         "cast:VEXMechanicalTool->VEXIMechanicalTool(&)",
-                         "VEXIMechanicalTool::GetLastShapedObject()",
-                         "cast:VEXImportedShape->VEXIGeometricalElement(&)",
-                         "VEXIGeometricalElement::GetBody()"},
-                        kToTheFirstFace}));
+    EXPECT_EQ(
+        CallsOf([&] { Take(list, 1, 2); }),
+        Together({{"cast:VEXPart->VEXIPartRequest(&)", "VEXIPartRequest::GetMainBody(\"\", &)",
+                   "cast:VEXMechanicalTool->VEXIMechanicalTool(&)",
+                   "VEXIMechanicalTool::GetLastShapedObject()",
+                   "cast:VEXImportedShape->VEXIGeometricalElement(&)",
+                   "VEXIGeometricalElement::GetBody()"},
+                  kToTheFirstFace}));
     EXPECT_EQ(CellsIn(list), FirstOf(Available(2), 1));
 }
 

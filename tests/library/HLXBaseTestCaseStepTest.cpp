@@ -129,6 +129,7 @@ TEST_F(CaseStepTest, OnlyTheStepIsHeldAndTheFactoryIsNotReleased)
               (HeldCounts{{"HLXRiksStepLT", 1}}));
     EXPECT_EQ(References(*step), 1U);
     EXPECT_EQ(FactoryReferences<HLXIAnalysisStepFact>(factoryName), before + 1);
+    TakeStep();
     CreateUnseen("HLXRiksStepLT", "Step");
     EXPECT_EQ(FactoryReferences<HLXIAnalysisStepFact>(factoryName), before + 2);
 }

@@ -81,6 +81,16 @@ TEST(BracketLoadsProgram, EndsWithOneWhenALoadCannotBeMade)
     EXPECT_THAT(ended.out, HasSubstr("could not create Film Condition entity!\n"));
 }
 
+TEST(BracketLoadsProgram, EndsWithOneWhenTheDocumentCannotBeSaved)
+{
+    const SampleAnalysis sample(1);
+    const Ended ended =
+        RunBracketLoads(sample, {{"VEX_FAULTS=VEXDocumentServices::SaveAs=E_FAIL"}});
+    EXPECT_EQ(ended.code, 1);
+    EXPECT_THAT(NamesOf(FilesIn(sample.Output())),
+                ElementsAre(AllOf(StartsWith("bracket_loads_"), EndsWith(".txt"))));
+}
+
 TEST(BracketLoadsProgram, TellsHowItIsCalled)
 {
     const Ended ended = RunProgram({Program("bracket_loads")});
