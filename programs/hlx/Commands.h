@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-// The subcommands of `hlx`. Each adds itself to the command line and, when it was chosen, leaves
-// its exit code in `exitCode`.
+// The subcommands of `hlx`. Each does its work, tells on standard error what it cannot do and
+// answers with the exit code.
 #pragma once
 
-#include <CLI/CLI.hpp>
+#include <string>
 
 namespace hlx {
 
@@ -14,9 +14,18 @@ enum ExitCode : int {
     WrongCommandLine = 2,
 };
 
-void AddNewCommand(CLI::App& program, int& exitCode);
-void AddTreeCommand(CLI::App& program, int& exitCode);
-void AddInfoCommand(CLI::App& program, int& exitCode);
-void AddProbesCommand(CLI::App& program, int& exitCode);
+/// What `hlx new` is to make; the help of the options tells the rest.
+struct NewOptions
+{
+    std::string out;
+    std::string from;
+    int cases = 1;
+    std::string steps;
+};
+
+int MakeDocument(const NewOptions& options);
+int PrintTree(const std::string& path);
+int PrintInfo(const std::string& path);
+int PrintProbes(bool casts);
 
 }  // namespace hlx

@@ -139,6 +139,8 @@ bool PrintContents(const OpenedDocument& opened)
     return Report("a document of this type cannot be shown");
 }
 
+}  // namespace
+
 int PrintInfo(const std::string& path)
 {
     const OpenedDocument opened(path);
@@ -149,20 +151,6 @@ int PrintInfo(const std::string& path)
     Write(fmt::format("type: {}\ndata version: {}\nfeatures: {}\n", opened.Get()->GetType().View(),
                       document->DataVersion(), document->Tree().Size()));
     return PrintContents(opened) ? Done : Failed;
-}
-
-}  // namespace
-
-void AddInfoCommand(CLI::App& program, int& exitCode)
-{
-    CLI::App* const command =
-        program.add_subcommand("info",
-                               "Show what a document is and holds: links, models, cases and steps, "
-                               "products, or a part's cells");
-    static std::string path;
-    command->add_option("DOC", path, "Document (.VEXAnalysis, .VEXProduct or .VEXPart)")
-        ->required();
-    command->callback([&exitCode] { exitCode = PrintInfo(path); });
 }
 
 }  // namespace hlx

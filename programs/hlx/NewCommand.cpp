@@ -25,14 +25,6 @@ namespace {
 namespace fs = std::filesystem;
 using vex::system::Quoted;
 
-struct NewOptions
-{
-    std::string out;
-    std::string from;
-    int cases = 1;
-    std::string steps;
-};
-
 /// Adds a case with its steps at the end of the document's current model.
 bool AddCase(VEXDocument* document, const std::vector<StepCode>& steps)
 {
@@ -140,6 +132,8 @@ bool WriteAnalysis(const NewOptions& options, const std::vector<StepCode>& steps
     return written;
 }
 
+}  // namespace
+
 int MakeDocument(const NewOptions& options)
 {
     std::vector<StepCode> steps;
@@ -164,29 +158,6 @@ int MakeDocument(const NewOptions& options)
     Progress(fmt::format("wrote {} with {} analysis case(s), linked to {}", Quoted(options.out),
                          options.cases, Quoted(geometryPath)));
     return Done;
-}
-
-}  // namespace
-
-void AddNewCommand(CLI::App& program, int& exitCode)
-{
-    CLI::App* const command = program.add_subcommand(
-        "new", "Make an analysis document linked to a part or an assembly read from a STEP file");
-    static NewOptions options;
-    command
-        ->add_option("OUT", options.out,
-                     "Analysis document to write (.VEXAnalysis); the documents of parts and "
-                     "assemblies are written beside it")
-        ->required();
-    command->add_option("--from", options.from, "STEP file of a part or an assembly")->required();
-    command->add_option("--cases", options.cases, "Number of analysis cases")
-        ->capture_default_str()
-        ->check(CLI::Range(0, 1000));
-    command->add_option(
-        "--steps", options.steps,
-        "Steps of each case, codes separated by commas: GSS general static, SPS static linear "
-        "perturbation, RS Riks, HTS heat transfer, EDS explicit dynamic");
-    command->callback([&exitCode] { exitCode = MakeDocument(options); });
 }
 
 }  // namespace hlx

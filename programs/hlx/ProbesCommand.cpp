@@ -23,22 +23,15 @@ void PrintCasts()
 
 }  // namespace
 
-void AddProbesCommand(CLI::App& program, int& exitCode)
+int PrintProbes(bool casts)
 {
-    CLI::App* const command = program.add_subcommand(
-        "probes",
-        "List every platform operation that can be traced and broken, with the ways to break it");
-    static bool casts = false;
-    command->add_flag("--casts", casts, "List the casts (cast:COMPONENT->INTERFACE) too");
-    command->callback([&exitCode] {
-        for (const std::string& name : vex::probe::AllNames()) {
-            Write(fmt::format("{}  {}\n", name, fmt::join(vex::probe::WaysToBreak(name), " ")));
-        }
-        if (casts) {
-            PrintCasts();
-        }
-        exitCode = Done;
-    });
+    for (const std::string& name : vex::probe::AllNames()) {
+        Write(fmt::format("{}  {}\n", name, fmt::join(vex::probe::WaysToBreak(name), " ")));
+    }
+    if (casts) {
+        PrintCasts();
+    }
+    return Done;
 }
 
 }  // namespace hlx

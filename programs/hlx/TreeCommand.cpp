@@ -20,6 +20,8 @@ bool AppendTreeRoots(const OpenedDocument& opened, VEXListValVEXBaseUnknown_var&
     return manager && AppendModels(*manager.Get(), roots);
 }
 
+}  // namespace
+
 int PrintTree(const std::string& path)
 {
     const OpenedDocument opened(path);
@@ -38,18 +40,6 @@ int PrintTree(const std::string& path)
         }
     }
     return complete ? Done : Failed;
-}
-
-}  // namespace
-
-void AddTreeCommand(CLI::App& program, int& exitCode)
-{
-    CLI::App* const command =
-        program.add_subcommand("tree", "Print the feature tree of a document");
-    static std::string path;
-    command->add_option("DOC", path, "Document (.VEXAnalysis, .VEXProduct or .VEXPart)")
-        ->required();
-    command->callback([&exitCode] { exitCode = PrintTree(path); });
 }
 
 }  // namespace hlx
