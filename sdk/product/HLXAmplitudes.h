@@ -27,7 +27,7 @@ public:
     /// @return S_OK; E_INVALIDARG for another table (the old one stays); E_FAIL when the amplitude
     /// is gone
     virtual HRESULT SetData(const HLXCftArrayHLXCftArrayDouble& table) = 0;
-    /// The table; without rows when none was given.
+    /// The table; without rows when none was given, or when what is stored is none.
     virtual HRESULT GetData(HLXCftArrayHLXCftArrayDouble& table) const = 0;
 };
 

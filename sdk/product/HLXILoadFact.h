@@ -5,7 +5,7 @@
 #include "VEXAnalysisModel.h"
 
 /// Each operation makes one kind of load, without an alias, at the end of the load container of a
-/// step; every kind of step takes every kind of load. Names of ours: all.
+/// step; every kind of step but the initial one takes every kind of load. Names of ours: all.
 /// @param load      receives the new load; left as it is on failure
 /// @param document  an open analysis document
 /// @param step      a step of that document

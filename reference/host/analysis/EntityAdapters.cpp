@@ -77,7 +77,9 @@ HRESULT MeshNegotiatorAdapter::Subscribe(const VEXISpecObject_var& entity)
             while (model != nullptr && model != &Self()) {
                 model = model->Parent();
             }
-            if (model == nullptr || !Offers<VEXISamAnalysisEntity>(*found)) {
+            // An entity of another catalogue need not have the attribute.
+            if (model == nullptr || !Offers<VEXISamAnalysisEntity>(*found) ||
+                found->Kind().IndexOf("FollowsMesh") < 0) {
                 return E_INVALIDARG;
             }
             return found->Set("FollowsMesh", true);

@@ -7,16 +7,11 @@
 
 namespace vex {
 
-EntityParameter::EntityParameter(Feature& entity, int attribute)
+EntityParameter::EntityParameter(Feature& entity, std::string_view attribute)
     : Component(ComponentTypes::Instance().Require("VEXSamParameter")),
       _entity(VEXShare<VEXBaseUnknown>(&entity)),
       _attribute(attribute)
 {}
-
-const std::string& EntityParameter::Name() const
-{
-    return Entity().Kind().attributes[static_cast<std::size_t>(_attribute)].name;
-}
 
 HRESULT ParameterAdapter::Valuate(double value)
 {
@@ -35,7 +30,7 @@ VEXIParameter_var ParameterOf(Feature& entity, std::string_view attribute)
     if (entity.Tree() == nullptr) {
         return {};
     }
-    auto* const parameter = new EntityParameter(entity, entity.Kind().IndexOf(attribute));
+    auto* const parameter = new EntityParameter(entity, attribute);
     return VEXAdopt(parameter->Face<VEXIParameter>());
 }
 

@@ -6,6 +6,7 @@
 #include "host/component/Adapter.h"
 #include "host/feature/Feature.h"
 
+#include <string>
 #include <string_view>
 
 namespace vex {
@@ -13,16 +14,16 @@ namespace vex {
 class EntityParameter final : public Component
 {
 public:
-    /// @param attribute  the index of an attribute of kind double
-    EntityParameter(Feature& entity, int attribute);
+    /// @param attribute  the name of an attribute of kind double
+    EntityParameter(Feature& entity, std::string_view attribute);
 
     Feature& Entity() const { return *static_cast<Feature*>(_entity.Get()); }
-    const std::string& Name() const;
+    const std::string& Name() const noexcept { return _attribute; }
     int IsNull() const override { return _entity->IsNull(); }
 
 private:
     VEXBaseUnknown_var _entity;
-    int _attribute;
+    std::string _attribute;
 };
 
 class ParameterAdapter final : public Adapter<VEXIParameter, EntityParameter>

@@ -99,9 +99,12 @@ HRESULT SetTarget(Feature& feature, std::string_view attribute, const VEXISpecOb
     return feature.Set(attribute, Reference{found->Id()});
 }
 
-HRESULT GetTarget(const Feature& feature, std::string_view attribute, VEXISpecObject_var& target)
+HRESULT GetTarget(const Feature& feature, std::string_view attribute, VEXISpecObject_var& target,
+                  const IID& interface)
 {
-    target = FaceOf<VEXISpecObject>(feature.Target(attribute));
+    const Feature* const found = feature.Target(attribute);
+    const bool fits = found != nullptr && found->Type().Find(interface) != nullptr;
+    target = FaceOf<VEXISpecObject>(fits ? found : nullptr);
     return ResultOf(feature);
 }
 

@@ -40,7 +40,13 @@ HRESULT SetTarget(Feature& feature, std::string_view attribute, const VEXISpecOb
 {
     return SetTarget(feature, attribute, target, VEXInterfaceTraits<Interface>::Id);
 }
+/// What a stored attribute refers to may be anything: without the interface it is given as none.
 VEX_EXPORT HRESULT GetTarget(const Feature& feature, std::string_view attribute,
-                             VEXISpecObject_var& target);
+                             VEXISpecObject_var& target, const IID& interface);
+template <class Interface>
+HRESULT GetTarget(const Feature& feature, std::string_view attribute, VEXISpecObject_var& target)
+{
+    return GetTarget(feature, attribute, target, VEXInterfaceTraits<Interface>::Id);
+}
 
 }  // namespace vex

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include <iterator>
+#include <new>
 #include <utility>
 
 namespace vex {
@@ -37,11 +38,16 @@ bool GeometryBlobs::Read(std::uint64_t number, std::span<const std::byte>& bytes
         return false;
     }
     Blob& blob = found->second;
-    if (!blob.loaded && !_source(number, blob.bytes, error)) {
+    try {
+        blob.loaded = blob.loaded || _source(number, blob.bytes, error);
+    } catch (const std::bad_alloc&) {
+        error = "the geometry of number " + std::to_string(number) +
+                " does not fit into memory; free some and try again";
+    }
+    if (!blob.loaded) {
         blob.bytes.clear();
         return false;
     }
-    blob.loaded = true;
     bytes = blob.bytes;
     return true;
 }

@@ -28,7 +28,11 @@ bool LateType::IsKindOf(std::string_view typeName) const
 const ComponentType& LateType::Row() const
 {
     for (const LateType* type = this; type != nullptr && _row == nullptr; type = type->base) {
-        _row = ComponentTypes::Instance().Find(type->name);
+        const ComponentType* const row = ComponentTypes::Instance().Find(type->name);
+        // A catalogue may name a type like a component that is no feature.
+        if (row != nullptr && row->IsKindOf(featureComponent)) {
+            _row = row;
+        }
     }
     if (_row == nullptr) {
         _row = &ComponentTypes::Instance().Require(featureComponent);

@@ -57,6 +57,9 @@ HRESULT GetTable(const vex::Feature& amplitude, HLXCftArrayHLXCftArrayDouble& ta
          row += width) {
         table.emplace_back(row, row + width);
     }
+    if (!IsTable(table)) {
+        table.clear();
+    }
     return S_OK;
 }
 

@@ -34,7 +34,7 @@ public:
     HRESULT GetAmplitude(VEXISpecObject_var& amplitude) const override
     {
         return vex::Probe<"HLXILoad::GetAmplitude">(
-            [&] { return vex::GetTarget(this->Self(), "Amplitude", amplitude); },
+            [&] { return vex::GetTarget<HLXIAmplitude>(this->Self(), "Amplitude", amplitude); },
             vex::Out(amplitude));
     }
 

@@ -4,6 +4,7 @@
 
 #include "HLXProductUtilities.h"
 #include "host/feature/DocumentSession.h"
+#include "host/product/ProductStructure.h"
 #include "host/system/MessageTexts.h"
 #include "product/inputfile/UniqueNames.h"
 
@@ -126,13 +127,13 @@ bool StructureReader::ReadLinked(Document& document)
         }
         const Feature& node = *level.next;
         level.next = node.NextSibling();
-        if (!node.Kind().IsKindOf("VEXProductNode")) continue;
+        // Counted whatever it is: what is passed over takes its time too.
         if (++_nodes > mostNodes) {
             return Fail(
                 "the product structure has more than a million nodes; link the analysis "
                 "to a smaller product");
         }
-        if (!Visit(node, level, levels)) return false;
+        if (node.Kind().IsKindOf(vex::productNodeType) && !Visit(node, level, levels)) return false;
     }
     return true;
 }
@@ -232,8 +233,8 @@ std::size_t StructureReader::PartOf(const Document& document, std::string_view p
     const auto [part, isNew] = _parts.emplace(&document, _structure.parts.size());
     if (isNew) {
         std::string name(partNumber);
-        for (const Feature* const feature : document.SpecContainer()->Children()) {
-            if (name.empty()) name = feature->Alias();
+        if (const Feature* const found = vex::PartOf(document); name.empty() && found != nullptr) {
+            name = found->Alias();
         }
         _structure.parts.push_back({_partNames.Make(name.empty() ? "Part" : name), &document, {}});
     }

@@ -28,7 +28,7 @@ void AppendLink(Text& out, const vex::DocumentLink& link, const vex::Feature& ow
     const std::string& target = link.path;
     std::string relative = vex::store::MakeRelative(document, target);
     // A way up and down again would tell where on this machine the documents stand.
-    if (relative.empty() || relative.starts_with("../")) {
+    if (relative.empty() || relative == ".." || relative.starts_with("../")) {
         relative = target.substr(target.rfind('/') + 1);
     }
     vex::text::AppendQuoted(out, relative);

@@ -56,6 +56,9 @@ TEST_F(MeshNegotiator, RefusesWhatIsNoEntityOfItsModel)
     ExpectInvalid(Object(*model));
     ExpectInvalid(Object(*step));
     ExpectInvalid(Object(Make("HLXTabularAmplitudeLT", *model)));
+    std::string error;
+    ASSERT_TRUE(vex::LateTypes::Instance().Add({{"VEXSamAnalysisEntity", "", {}}}, error)) << error;
+    ExpectInvalid(Object(Make("VEXSamAnalysisEntity", *loads)));
     vex::Feature& other = Make("VEXSamAnalysisModel", *model->Parent());
     vex::Feature& foreign = Make("HLXPressure", other);
     ExpectInvalid(Object(foreign));

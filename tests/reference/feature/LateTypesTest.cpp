@@ -28,6 +28,13 @@ TEST(LateTypes, AKindWithoutARowIsAPlainFeature)
     EXPECT_EQ(Type("VEXProductNode").Row().name, "VEXProductNode");
 }
 
+TEST(LateTypes, AKindNamedLikeAComponentThatIsNoFeatureIsAPlainFeature)
+{
+    std::string error;
+    ASSERT_TRUE(LateTypes::Instance().Add({{"VEXSamParameter", "", {}}}, error)) << error;
+    EXPECT_EQ(Type("VEXSamParameter").Row().name, featureComponent);
+}
+
 TEST(LateTypes, AnUnknownTypeIsNull)
 {
     EXPECT_EQ(LateTypes::Instance().Find("NoSuchType"), nullptr);

@@ -124,4 +124,21 @@ TEST_F(InputFileStructureRefusal, AStructureThatMultipliesIsRefused)
     EXPECT_NE(reason.find("more than a million nodes; "), std::string::npos) << reason;
 }
 
+/// What is no node is passed over, but takes its time.
+TEST_F(InputFileStructureRefusal, AProductFullOfOtherFeaturesUsedOftenIsRefused)
+{
+    Feature& full = Product();
+    for (int i = 0; i < 2'000; ++i) {
+        full.Tree()->Create(vex::LateTypes::Instance().Require("HLXContainerLT"), &full);
+    }
+    const std::string below = SaveProduct(full, "full");
+    Feature& root = Product();
+    for (int i = 0; i < 501; ++i) {
+        Use(root, "use" + std::to_string(i), "", below);
+    }
+    Link(SaveProduct(root, "top"));
+    const std::string reason = Refusal();
+    EXPECT_NE(reason.find("more than a million nodes; "), std::string::npos) << reason;
+}
+
 }  // namespace

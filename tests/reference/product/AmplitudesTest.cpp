@@ -116,14 +116,25 @@ TEST_F(Amplitudes, RefuseOtherTablesAndKeepTheirs)
     }
 }
 
-TEST_F(Amplitudes, GiveAStoredTableAsItIs)
+TEST_F(Amplitudes, GiveNoRowsOfAStoredTableThatIsNone)
 {
     const HLXIAmplitude_var amplitude = Make();
-    FeatureOf(amplitude).Set("Data",
-                             vex::Boxed<vex::DoubleTable>(vex::DoubleTable{3, {1, 2, 3, 4, 5, 6}}));
-    EXPECT_EQ(TableOf(amplitude), (Table{{1, 2, 3}, {4, 5, 6}}));
-    FeatureOf(amplitude).Set("Data", vex::Boxed<vex::DoubleTable>());
-    EXPECT_TRUE(TableOf(amplitude).empty());
+    const auto store = [&](vex::DoubleTable table) {
+        FeatureOf(amplitude).Set("Data", vex::Boxed<vex::DoubleTable>(std::move(table)));
+    };
+    store({2, {1, 2, 3, 4, 5, 6}});
+    EXPECT_EQ(TableOf(amplitude), (Table{{1, 2}, {3, 4}, {5, 6}}));
+    const vex::DoubleTable others[] = {
+        {3, {1, 2, 3, 4, 5, 6}},
+        {1, {1, 2}},
+        {2, {3, 4, 1, 2}},
+        {2, {0, std::numeric_limits<double>::quiet_NaN()}},
+        {},
+    };
+    for (const vex::DoubleTable& other : others) {
+        store(other);
+        EXPECT_TRUE(TableOf(amplitude).empty()) << other.columns;
+    }
 }
 
 TEST_F(Amplitudes, HaveATimeSpanOfTwo)

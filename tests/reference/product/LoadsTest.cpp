@@ -57,8 +57,14 @@ TEST_F(Loads, HaveAnAmplitudeOfTheirDocument)
             EXPECT_EQ(found, tabular);
         }
     }
-    FeatureOf(tabular).Tree()->Delete(FeatureOf(tabular));
     VEXISpecObject_var found = smooth;
+    vex::Feature& first = FeatureOf(held.front());
+    first.Set("Amplitude", vex::Reference{step->Id()});
+    EXPECT_EQ(HLXILoad_var(held.front())->GetAmplitude(found), S_OK);
+    EXPECT_FALSE(found) << "what was stored is no amplitude";
+    first.Set("Amplitude", vex::Reference{FeatureOf(tabular).Id()});
+    FeatureOf(tabular).Tree()->Delete(FeatureOf(tabular));
+    found = smooth;
     EXPECT_EQ(HLXILoad_var(held.front())->GetAmplitude(found), S_OK);
     EXPECT_FALSE(found);
 }

@@ -210,6 +210,8 @@ TEST_F(TreeDump, LinksNeverTellWhereTheDocumentStands)
     EXPECT_EQ(Dump(root), "TstAll Model=\"b.VEXPart\"\n") << "beside";
     document->SetPath("/models/c/case.VEXAnalysis");
     EXPECT_EQ(Dump(root), "TstAll Model=\"b.VEXPart\"\n") << "elsewhere";
+    Link(root, "/models");
+    EXPECT_EQ(Dump(root), "TstAll Model=\"models\"\n") << "the folder above";
     Link(root, "/models/c/..b/x.VEXPart");
     EXPECT_EQ(Dump(root), "TstAll Model=\"..b/x.VEXPart\"\n")
         << "a folder whose name starts with two dots";
