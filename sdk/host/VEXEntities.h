@@ -35,9 +35,9 @@ VEX_INTERFACE(VEXISamAnalysisEntity);
 class VEXISamSupport : public VEXBaseUnknown
 {
 public:
-    /// The geometry, found again in the part. The part's document is opened when it is not open, and
-    /// gets an access when it has none to the cell. As long as somebody holds the part's body, the
-    /// shape is not read again for the next support.
+    /// The geometry, found again in the part. The part's document is opened when it is not open,
+    /// and gets an access when it has none to the cell. As long as somebody holds the part's body,
+    /// the shape is not read again for the next support.
     /// @param geometry  receives a B-rep access to a face, edge or vertex, or the body's feature
     ///                  (VEXIMechanicalTool, VEXIBodyRequest); empty on failure
     /// @return S_OK; E_FAIL when the support is gone or, with the reason on standard error, when

@@ -44,7 +44,8 @@ HRESULT FilmConditionAdapter::SetFilmAmplitude(const VEXISpecObject_var& amplitu
 HRESULT FilmConditionAdapter::GetFilmAmplitude(VEXISpecObject_var& amplitude) const
 {
     return Probe<"HLXIFilmCondition::GetFilmAmplitude">(
-        [&] { return vex::GetTarget<HLXIAmplitude>(Self(), "FilmAmplitude", amplitude); }, Out(amplitude));
+        [&] { return vex::GetTarget<HLXIAmplitude>(Self(), "FilmAmplitude", amplitude); },
+        Out(amplitude));
 }
 
 HRESULT FilmConditionAdapter::SetUseFilmAmplitude(unsigned char flag)

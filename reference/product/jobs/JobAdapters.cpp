@@ -35,7 +35,8 @@ HRESULT JobAdapter::SetAnalysisCase(const VEXISpecObject_var& analysisCase)
 HRESULT JobAdapter::GetAnalysisCase(VEXISpecObject_var& analysisCase) const
 {
     return Probe<"HLXIJob::GetAnalysisCase">(
-        [&] { return vex::GetTarget<VEXISamAnalysisCase>(Self(), "AnalysisCase", analysisCase); }, Out(analysisCase));
+        [&] { return vex::GetTarget<VEXISamAnalysisCase>(Self(), "AnalysisCase", analysisCase); },
+        Out(analysisCase));
 }
 
 HRESULT JobAdapter::SetResultsDirectory(const VEXUnicodeString& folder)

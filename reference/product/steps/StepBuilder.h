@@ -14,7 +14,8 @@ vex::Feature* HistoryOf(const vex::Feature& analysisCase);
 /// @param lateType  a kind of step, such as "HLXGeneralStaticStepLT"
 /// @param name      its alias; empty for none
 /// @return the step, not counted; null, with the reason in `error` and nothing made, when the case
-/// is gone or has no simulation history, the type is no kind of step, or the name is not valid UTF-8
+/// is gone or has no simulation history, the type is no kind of step, or the name is not valid
+/// UTF-8
 VEX_EXPORT vex::Feature* AddStep(vex::Feature& analysisCase, std::string_view lateType,
                                  std::string_view name, std::string& error);
 
