@@ -25,21 +25,8 @@ protected:
         return cases[number];
     }
 
-    VEXISpecObject_var Model()
-    {
-        VEXListValVEXBaseUnknown_var models;
-        EXPECT_EQ(Manager()->GetAllAnalysisModels(models), S_OK);
-        return models[1];
-    }
-
     /// A case without a simulation history and a job container.
     VEXISamAnalysisCase_var BareCase() { return Add(Model(), "HLXHacAnalysisCaseLT", "Bare"); }
-
-    static std::string AliasOf(const VEXBaseUnknown_var& feature)
-    {
-        const VEXIAlias_var alias = feature;
-        return alias ? std::string(alias->GetAlias().View()) : "(none)";
-    }
 
     static std::string TypeOf(const VEXISpecObject_var& feature)
     {

@@ -91,13 +91,6 @@ protected:
         return cases[1];
     }
 
-    VEXBaseUnknown_var Model()
-    {
-        VEXListValVEXBaseUnknown_var models;
-        EXPECT_EQ(Manager()->GetAllAnalysisModels(models), S_OK);
-        return models[1];
-    }
-
     Content Read()
     {
         Content content;

@@ -47,18 +47,7 @@ protected:
     VEXListValVEXBaseUnknown_var Loads() { return Below(step, "HLXLoad"); }
 
     /// The amplitudes of the document, in order.
-    VEXListValVEXBaseUnknown_var Amplitudes()
-    {
-        VEXListValVEXBaseUnknown_var models;
-        EXPECT_EQ(Manager()->GetAllAnalysisModels(models), S_OK);
-        return Below(models[1], "HLXAmplitudeLT");
-    }
-
-    static std::string AliasOf(const VEXBaseUnknown_var& feature)
-    {
-        const VEXIAlias_var alias = feature;
-        return alias ? std::string(alias->GetAlias().View()) : "(none)";
-    }
+    VEXListValVEXBaseUnknown_var Amplitudes() { return Below(Model(), "HLXAmplitudeLT"); }
 
     /// The supports of a load in order, such as
     /// "face 1 of box.VEXPart, GeometrySmartConnector" and "body of box.VEXPart, ".

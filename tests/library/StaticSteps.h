@@ -36,6 +36,20 @@ protected:
         return made;
     }
 
+    static std::string AliasOf(const VEXBaseUnknown_var& feature)
+    {
+        const VEXIAlias_var alias = feature;
+        return alias ? std::string(alias->GetAlias().View()) : "(none)";
+    }
+
+    /// The first model of the document.
+    VEXISpecObject_var Model()
+    {
+        VEXListValVEXBaseUnknown_var models;
+        EXPECT_EQ(Manager()->GetAllAnalysisModels(models), S_OK);
+        return models[1];
+    }
+
     /// The features of a late type at any depth below `object`.
     static VEXListValVEXBaseUnknown_var Below(const VEXISpecObject_var& object,
                                               const char* lateType)

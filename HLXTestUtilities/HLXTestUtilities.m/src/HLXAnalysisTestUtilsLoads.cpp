@@ -2,7 +2,7 @@
 // Static utilities that create loads, in the order of their header. All follow one procedure: make
 // the factory, create the load in the step, name it, give it its values and an amplitude, find the
 // part, add geometry of it as the support. Each keeps its own order of these steps. Nothing is
-// undone on failure.
+// undone on failure, and nobody releases the factory; kept.
 #include "HLXAnalysisTestUtils.h"
 #include "HLXConsole.h"
 #include "HLXEntityCreation.h"
@@ -11,18 +11,12 @@
 using namespace HLXEntityCreation;
 using HLXConsole::Fail;
 
-namespace {
-
-constexpr const char* noFactory = "********** Could not create HLXLoadFact";
-
-}  // namespace
-
 HRESULT HLXAnalysisTestUtils::CreateGravity(VEXDocument* document, VEXUnicodeString name,
                                             VEXISpecObject_var& gravity,
                                             VEXISamAnalysisSet_var& step)
 {
     HLXILoadFact* factory = nullptr;
-    if (FAILED(MakeLoadFactory(factory)) || factory == nullptr) return Fail(noFactory);
+    if (FAILED(MakeLoadFactory(factory)) || factory == nullptr) return Fail(noLoadFactory);
     VEXISpecObject_var created;
     if (FAILED(factory->CreateGravity(created, document, step)) || created == nullptr) {
         return Fail("********** could not create gravity entity!");
@@ -63,7 +57,7 @@ HRESULT HLXAnalysisTestUtils::CreatePressureLoad(VEXDocument*& document, VEXUnic
     if (FAILED(HLXPartSupport::FindPart(document, part))) return E_FAIL;
 
     HLXILoadFact* factory = nullptr;
-    if (FAILED(MakeLoadFactory(factory)) || factory == nullptr) return Fail(noFactory);
+    if (FAILED(MakeLoadFactory(factory)) || factory == nullptr) return Fail(noLoadFactory);
     if (FAILED(factory->CreatePressure(pressure, document, step)) || pressure == nullptr) {
         return Fail("********** could not create pressure entity!");
     }
@@ -108,7 +102,7 @@ HRESULT HLXAnalysisTestUtils::CreateRBF(VEXDocument* document, VEXUnicodeString 
                                         VEXISpecObject_var& bodyForce, VEXISamAnalysisSet_var& step)
 {
     HLXILoadFact* factory = nullptr;
-    if (FAILED(MakeLoadFactory(factory)) || factory == nullptr) return Fail(noFactory);
+    if (FAILED(MakeLoadFactory(factory)) || factory == nullptr) return Fail(noLoadFactory);
     VEXISpecObject_var created;
     if (FAILED(factory->CreateRotationalBodyForce(created, document, step)) || created == nullptr) {
         return Fail("********** could not create centrifugal load entity!");
@@ -161,7 +155,7 @@ HRESULT HLXAnalysisTestUtils::CreatedConcForce(VEXDocument* document, VEXUnicode
                                                VEXISamAnalysisSet_var& step)
 {
     HLXILoadFact* factory = nullptr;
-    if (FAILED(MakeLoadFactory(factory)) || factory == nullptr) return Fail(noFactory);
+    if (FAILED(MakeLoadFactory(factory)) || factory == nullptr) return Fail(noLoadFactory);
     VEXISpecObject_var created;
     if (FAILED(factory->CreateConcentratedForce(created, document, step)) || created == nullptr) {
         return Fail("********** could not create conc force entity!");

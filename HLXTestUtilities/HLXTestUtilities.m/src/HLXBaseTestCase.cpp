@@ -4,9 +4,8 @@
 
 #include "HLXClassRecord.h"
 #include "HLXConsole.h"
-#include "HLXILoadFact.h"
+#include "HLXEntityCreation.h"
 #include "HLXPath.h"
-#include "VEXComponents.h"
 #include "VEXDocumentServices.h"
 
 HLX_CLASS_RECORD(HLXBaseTestCase, VEXBaseUnknown);
@@ -100,14 +99,14 @@ VEXBaseUnknown* HLXBaseTestCase::GetLoadFactory()
 long HLXBaseTestCase::InitializeLoadFactory()
 {
     if (_LoadFactory != nullptr) return S_OK;
-    void* factory = nullptr;
-    const long rc = VEXInstantiateComponent("HLXLoadFact", IID_HLXILoadFact, &factory);
+    HLXILoadFact* factory = nullptr;
+    const long rc = HLXEntityCreation::MakeLoadFactory(factory);
     if (SUCCEEDED(rc) && factory != nullptr) {
-        _LoadFactory = static_cast<HLXILoadFact*>(factory);
+        _LoadFactory = factory;
         return rc;
     }
     _LoadFactory = nullptr;
-    HLXConsole::Print("********** Could not create HLXLoadFact");
+    HLXConsole::Print(HLXEntityCreation::noLoadFactory);
     // Success when only the pointer was missing; kept.
     return rc;
 }

@@ -15,8 +15,11 @@ inline constexpr const char* smartConnector = "GeometrySmartConnector";
 inline constexpr unsigned char off = 0;
 inline constexpr unsigned char on = 1;
 
-/// Makes the load factory. Nobody releases it; kept.
-/// @param factory  receives it, null when there is none
+/// What is said when there is no load factory.
+inline constexpr const char* noLoadFactory = "********** Could not create HLXLoadFact";
+
+/// Makes the load factory.
+/// @param factory  receives it with a reference added, null when there is none
 /// @return the platform's result
 HRESULT MakeLoadFactory(HLXILoadFact*& factory);
 

@@ -69,7 +69,7 @@ HRESULT DocumentManagerAdapter::AddLink(VEXDocument* document)
                     return child->Set("Document", Boxed<DocumentLink>(wanted));
                 }
             }
-            Feature& link = tree->Create(LateTypes::Instance().Require(linkType), &Self());
+            Feature& link = AddFeature(Self(), linkType);
             return link.Set("Document", Boxed<DocumentLink>(wanted));
         },
         In(DocumentArgument{document}));

@@ -36,8 +36,7 @@ HRESULT AnalysisSupportAdapter::AddSupport(const VEXILinkableObject_var& geometr
             if (FAILED(result)) {
                 return error.empty() ? result : Refuse(result, error);
             }
-            Feature& support =
-                Self().Tree()->Create(LateTypes::Instance().Require("VEXSamSupport"), &Self());
+            Feature& support = AddFeature(Self(), "VEXSamSupport");
             support.Set("Connector", Boxed<std::string>(std::string(connectorKind.View())));
             return SetRegion(support, *document, description);
         },

@@ -33,9 +33,7 @@ HRESULT SetAxis(Feature& entity, std::string_view attribute, const VEXILinkableO
         return E_INVALIDARG;
     }
     Feature* const known = FirstChildOfType(entity, axisType);
-    Feature& axis = known != nullptr
-                        ? *known
-                        : entity.Tree()->Create(LateTypes::Instance().Require(axisType), &entity);
+    Feature& axis = known != nullptr ? *known : AddFeature(entity, axisType);
     entity.Set(attribute, Reference{axis.Id()});
     return SetRegion(axis, *document, description);
 }

@@ -33,6 +33,11 @@ Feature& FeatureTree::Create(const LateType& lateType, Feature* parent, Feature*
     return *feature;
 }
 
+Feature& AddFeature(Feature& parent, std::string_view lateType)
+{
+    return parent.Tree()->Create(LateTypes::Instance().Require(lateType), &parent);
+}
+
 Feature* FeatureTree::Restore(const LateType& lateType, Feature* parent, FeatureId id)
 {
     if (id == 0 || id > maximumStoredId || Find(id) != nullptr) {

@@ -99,7 +99,7 @@ Feature* BRepAccesses::FindOrMake(const Cell& cell)
     FeatureId& known = _accesses[static_cast<std::size_t>(cell.Dimension())][cell.Index()];
     Feature* access = tree.Find(known);
     if (!IsAccessTo(access, cell, *_body)) {
-        access = &tree.Create(LateTypes::Instance().Require(brepAccessType), container);
+        access = &AddFeature(*container, brepAccessType);
         access->Set("Part", Reference{part->Id()});
         access->Set("Dimension", std::int64_t{cell.Dimension()});
         access->Set("Index", static_cast<std::int64_t>(cell.Index()));

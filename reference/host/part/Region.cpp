@@ -11,12 +11,6 @@ namespace vex {
 
 namespace {
 
-RegionGeometry StoredGeometry(const Feature& region)
-{
-    return {region.GetAs<std::int64_t>("Dimension"), region.GetAs<std::int64_t>("Index"),
-            region.GetAs<std::string>("Shape")};
-}
-
 /// Where a message is about.
 std::string PlaceOf(const Feature& region)
 {

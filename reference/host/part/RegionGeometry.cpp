@@ -44,12 +44,14 @@ RegionGeometry DescribeCell(const Cell& cell)
             cell.OwnBody().ShapeDigest()};
 }
 
-/// What a stored access holds may be anything; it never is to a body.
+/// An access never is to a body.
 RegionGeometry DescribeAccess(const Feature& access)
 {
-    const std::int64_t dimension = access.GetAs<std::int64_t>("Dimension");
-    return {dimension == 3 ? -1 : dimension, access.GetAs<std::int64_t>("Index"),
-            access.GetAs<std::string>("Shape")};
+    RegionGeometry description = StoredGeometry(access);
+    if (description.dimension == 3) {
+        description.dimension = -1;
+    }
+    return description;
 }
 
 /// Of the shape that the part has at present; of none when it has none.
@@ -74,6 +76,12 @@ constexpr const char* goneGeometry =
     "the geometry again in the present shape.";
 
 }  // namespace
+
+RegionGeometry StoredGeometry(const Feature& feature)
+{
+    return {feature.GetAs<std::int64_t>("Dimension"), feature.GetAs<std::int64_t>("Index"),
+            feature.GetAs<std::string>("Shape")};
+}
 
 std::string NameOf(const RegionGeometry& geometry)
 {

@@ -19,6 +19,9 @@ struct RegionGeometry
     std::string shape;           ///< digest of the geometry's bytes (ShapeDigest)
 };
 
+/// What a region or a B-rep access stores, which may be anything.
+RegionGeometry StoredGeometry(const Feature& feature);
+
 /// "Vertex-3", "Edge-12", "Face-1", "Body-1"; "Unknown-1" of another dimension.
 std::string NameOf(const RegionGeometry& geometry);
 

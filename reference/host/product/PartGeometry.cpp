@@ -56,7 +56,7 @@ bool GiveGeometry(Document& document, std::vector<std::byte> shape)
     }
     const std::uint64_t number = document.AddGeometry(std::move(shape));
     part->Set("Geometry", static_cast<std::int64_t>(number));
-    document.Tree().Create(LateTypes::Instance().Require(importedShapeType), &MainBody(*part));
+    AddFeature(MainBody(*part), importedShapeType);
     return true;
 }
 

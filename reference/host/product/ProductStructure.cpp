@@ -53,7 +53,7 @@ Feature& MainBody(Feature& part)
     if (Feature* const body = FirstChildOfType(part, mechanicalToolType)) {
         return *body;
     }
-    Feature& body = part.Tree()->Create(LateTypes::Instance().Require(mechanicalToolType), &part);
+    Feature& body = AddFeature(part, mechanicalToolType);
     body.SetAlias("Main Body");
     return body;
 }

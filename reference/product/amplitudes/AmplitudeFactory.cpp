@@ -21,8 +21,7 @@ HRESULT Make(const char* lateType, VEXISpecObject_var& amplitude, const VEXDocum
     if (model == nullptr) {
         return E_FAIL;
     }
-    amplitude = vex::FaceOf<VEXISpecObject>(
-        &model->Tree()->Create(vex::LateTypes::Instance().Require(lateType), model));
+    amplitude = vex::FaceOf<VEXISpecObject>(&vex::AddFeature(*model, lateType));
     return S_OK;
 }
 

@@ -12,6 +12,7 @@ namespace hlx {
 
 namespace {
 
+using vex::AddFeature;
 using vex::Feature;
 
 constexpr const char* caseType = "HLXHacAnalysisCaseLT";
@@ -23,11 +24,6 @@ constexpr const char* initialContainers[] = {
     "HLXInteractionContainerLT",
     "HLXHacFieldContainerLT",
 };
-
-Feature& Add(Feature& parent, std::string_view lateType)
-{
-    return parent.Tree()->Create(vex::LateTypes::Instance().Require(lateType), &parent);
-}
 
 std::string NextAlias(const Feature& model)
 {
@@ -50,23 +46,24 @@ std::string NextAlias(const Feature& model)
 Feature& AddAnalysisCase(Feature& model, HLXIAnalysisCase::analysisTypeEnum type)
 {
     const std::string alias = NextAlias(model);
-    Feature& analysisCase = Add(model, caseType);
+    Feature& analysisCase = AddFeature(model, caseType);
     analysisCase.SetAlias(alias);
     analysisCase.Set("AnalysisType", std::int64_t{type});
-    Feature& initialStep = Add(Add(analysisCase, "HLXHacSimHistLT"), "HLXHacInitialStepLT");
+    Feature& initialStep =
+        AddFeature(AddFeature(analysisCase, "HLXHacSimHistLT"), "HLXHacInitialStepLT");
     initialStep.SetAlias("Initial");
     for (const char* const container : initialContainers) {
-        Add(initialStep, container);
+        AddFeature(initialStep, container);
     }
-    Add(analysisCase, "HLXJobContainerLT");
-    Add(analysisCase, "HLXHacSolutionLT");
+    AddFeature(analysisCase, "HLXJobContainerLT");
+    AddFeature(analysisCase, "HLXHacSolutionLT");
     return analysisCase;
 }
 
 Feature& AddElementBehavior(Feature& analysisCase)
 {
     Feature* const behavior = vex::FirstChildOfType(analysisCase, behaviorType);
-    return behavior == nullptr ? Add(analysisCase, behaviorType) : *behavior;
+    return behavior == nullptr ? AddFeature(analysisCase, behaviorType) : *behavior;
 }
 
 }  // namespace hlx

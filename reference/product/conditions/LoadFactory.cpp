@@ -38,8 +38,7 @@ HRESULT Make(std::string_view lateType, VEXISpecObject_var& load, const VEXDocum
     if (container == nullptr) {
         return E_FAIL;
     }
-    load = vex::FaceOf<VEXISpecObject>(
-        &container->Tree()->Create(vex::LateTypes::Instance().Require(lateType), container));
+    load = vex::FaceOf<VEXISpecObject>(&vex::AddFeature(*container, lateType));
     return S_OK;
 }
 

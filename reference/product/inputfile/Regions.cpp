@@ -6,14 +6,6 @@
 
 namespace hlx {
 
-namespace {
-
-/// A support of a part that is used a thousand times has a thousand names: a few long ones would
-/// make a text of any length.
-constexpr std::size_t mostBytesOfNames = std::size_t{256} << 20U;
-
-}  // namespace
-
 std::string RegionOfInstance(const PartInstance& instance, std::string_view region)
 {
     std::string name = instance.name;

@@ -26,9 +26,6 @@ using vex::system::Quoted;
 
 constexpr std::size_t deepestLevel = 256;
 constexpr std::size_t mostNodes = 1'000'000;
-/// A name holds those of all nodes above: long ones would make a text of the square of what the
-/// documents hold.
-constexpr std::size_t mostBytesOfNames = std::size_t{256} << 20U;
 
 /// The place in the top of something placed by `inner` in what is itself placed by `outer`.
 Placement Compose(const Placement& outer, const Placement& inner)

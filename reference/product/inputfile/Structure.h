@@ -14,6 +14,10 @@ class Document;
 
 namespace hlx {
 
+/// How many bytes names may take, those of instances and parts together, and those of regions:
+/// names that are made of one another could make a text of any length.
+inline constexpr std::size_t mostBytesOfNames = std::size_t{256} << 20U;
+
 struct StructurePart
 {
     std::string name;  ///< unique

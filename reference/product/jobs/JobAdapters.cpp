@@ -74,8 +74,7 @@ HRESULT JobFactory::CreateJob(VEXDocument* document, HLXIJob_var& job)
             if (vex::Document::From(document) != &tree->Owner()) {
                 return E_INVALIDARG;
             }
-            job = vex::FaceOf<HLXIJob>(
-                &tree->Create(vex::LateTypes::Instance().Require("HLXJobLT"), &Self()));
+            job = vex::FaceOf<HLXIJob>(&vex::AddFeature(Self(), "HLXJobLT"));
             return S_OK;
         },
         In(vex::DocumentArgument{document}), Out(job));

@@ -62,7 +62,7 @@ Feature* AddStep(Feature& analysisCase, std::string_view lateType, std::string_v
         step.SetAlias(name);
     }
     for (const char* const container : stepContainers) {
-        step.Tree()->Create(types.Require(container), &step);
+        vex::AddFeature(step, container);
     }
     return &step;
 }

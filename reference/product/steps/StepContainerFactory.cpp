@@ -16,7 +16,7 @@ HRESULT MakeOnce(vex::Feature& step, const char* container)
         return E_FAIL;
     }
     if (vex::FirstChildOfType(step, container) == nullptr) {
-        step.Tree()->Create(vex::LateTypes::Instance().Require(container), &step);
+        vex::AddFeature(step, container);
     }
     return S_OK;
 }
