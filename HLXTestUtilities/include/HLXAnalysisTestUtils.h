@@ -5,6 +5,7 @@
 #pragma once
 
 #include "HLXJobs.h"
+#include "VEXEntities.h"
 #include "VEXMechanicalPart.h"
 
 class VEX_EXPORT HLXAnalysisTestUtils
@@ -183,6 +184,127 @@ public:
     /// @param film  receives the load as soon as it is there
     static HRESULT CreateFilmCondition(VEXDocument* document, VEXUnicodeString name,
                                        VEXISpecObject_var& film, VEXISamAnalysisSet_var& step);
+
+    // --- Boundary conditions -------------------------------------------------------------------
+    //
+    // Each creates a condition in a step, switches an amplitude on without giving one (not for the
+    // clamp), and puts it on the first face of the part that the document is linked to, as loads
+    // are. Each message ends a line; two of them flush it.
+    //
+    // Arguments: the open analysis document; a name, which is not used; for each degree of freedom
+    // whether it is prescribed and its value (lengths and radians in the units of the document, a
+    // unit of time for velocities); the condition, received as soon as it is there; the step. A
+    // condition that is in the handle before is taken for the new one when the platform succeeds
+    // without making one; the handle is emptied when "Error in Getting the BC pointer " is printed.
+    // Results: S_OK, or E_FAIL: with a message where one is named, silently when the condition has
+    // not the interface of its kind or refuses to use an amplitude, and when there is no part or
+    // body, or the part has not faces, edges and vertices. Nothing is undone on failure.
+
+    /// Displacements. A value is given when its byte is 1 and the fix switch is 0; the bytes
+    /// themselves become the switches in any case, and the condition is changed by a user's
+    /// subroutine. Whether it took values and switches is not looked at. "could not create Clamp
+    /// entity!", also without a factory; flushed: "Failed to get Tranlation Component", "Failed to
+    /// get Rotation Component"; "Error in Getting the BC pointer ", "Could not get VEXILinkable for
+    /// face!", "Could not add support to TestBC.1".
+    /// @param fixOn  not 0: no value is given
+    /// @return silently also E_NOINTERFACE for a condition without attribute access, and E_FAIL for
+    /// one without one of the switches
+    static HRESULT CreateDispBC(VEXDocument* document, VEXUnicodeString name, unsigned char u1On,
+                                double u1, unsigned char u2On, double u2, unsigned char u3On,
+                                double u3, unsigned char ur1On, double ur1, unsigned char ur2On,
+                                double ur2, unsigned char ur3On, double ur3, unsigned char fixOn,
+                                VEXISpecObject_var& bc, VEXISamAnalysisSet_var& step);
+
+    /// Velocities. All values are given, whatever the switches say; whether the condition took them
+    /// is not looked at. "could not create Velocity entity!", also without a factory; "Error in
+    /// Getting the BC pointer ", "Could not get VEXILinkable for face!", "Could not add support to
+    /// TestBC.1".
+    static HRESULT CreateVelocityBC(VEXDocument* document, VEXUnicodeString name,
+                                    unsigned char u1On, double u1, unsigned char u2On, double u2,
+                                    unsigned char u3On, double u3, unsigned char ur1On, double ur1,
+                                    unsigned char ur2On, double ur2, unsigned char ur3On,
+                                    double ur3, VEXISpecObject_var& bc,
+                                    VEXISamAnalysisSet_var& step);
+
+    /// A clamp. The first edge of the part must be there too. "could not create Clamp entity!",
+    /// also without a factory; "Error in Getting the BC pointer ", "VEXBRepDecode failed!", "Could
+    /// not get VEXILinkable for face!", "Could not add support to 1st Clamp".
+    static HRESULT CreateClamp(VEXDocument* document, VEXUnicodeString name,
+                               VEXISpecObject_var& clamp, VEXISamAnalysisSet_var& step);
+
+    // --- Temperatures: each message of theirs ends a line and is flushed -----------------------
+    //
+    // As loads. Arguments: the open analysis document; the name of the new temperature; the
+    // temperature, received as soon as it is there; the step. Results: S_OK, or E_FAIL: with a
+    // message where one is named, silently when there is no amplitude, part or body. Nothing is
+    // undone on failure. Of the first two, a temperature that is in the handle before is taken for
+    // the new one when the platform succeeds without making one.
+
+    /// Temperature of 25.89 on the first face, changed by a user's subroutine, with a new tabular
+    /// amplitude that it uses; whether it took flags and amplitude is not looked at. Silently
+    /// E_FAIL also for a temperature refused, and for a part without faces, edges and vertices.
+    /// "Could not create temperature BC in the current step", also without a factory; "Could not
+    /// get VEXILinkable for face!", not flushed; "Could not add support to Temperature BC".
+    static HRESULT CreateTemperatureBC(VEXDocument* document, VEXUnicodeString& name,
+                                       VEXISpecObject_var& temperature,
+                                       VEXISamAnalysisSet_var& step);
+
+    /// Initial temperature on the main body, in the initial step of the current case, which
+    /// HLXAnalysisDocUtils::ValidateStep finds, or makes with its "HLXHacFieldContainerLT"; without
+    /// a value. "Could not create initial temperature in the current step", also without a factory
+    /// or a step; "Could not add support to Initial Temperature".
+    static HRESULT CreateInitialTemperature(VEXDocument* document, VEXUnicodeString& name,
+                                            VEXISpecObject_var& temperature);
+
+    /// Temperature history on the main body, without data. "Could not create temperature history in
+    /// the current step", also without a factory; "Could not add support to Film Condition".
+    static HRESULT CreateTemperatureHistory(VEXDocument* document, VEXUnicodeString& name,
+                                            VEXISamAnalysisEntity_var& history,
+                                            VEXISamAnalysisSet_var& step);
+
+    // --- Parameter reports: no message ---------------------------------------------------------
+    //
+    // Each appends one block of text with the parameters of a feature to a file, which is made when
+    // it is not there; whether it can be opened is not looked at. The block: an empty line, the
+    // header with a blank at its end, one line "label:value" a parameter, two empty lines. Labels
+    // are kept as they are, "Sunroutine" and "Accelaration" included. A path with a zero in it is
+    // one that cannot be opened.
+    //
+    //     number      six significant digits, exponents of at least three: 0.5, 1.23457e+006
+    //     flag        "TRUE " with a blank, "FALSE"
+    //     amplitude, analysis case   its alias, be it empty; "NULL" when none is referred to, or it
+    //                                is nothing that can have an alias
+    //
+    // Results: S_OK; E_FAIL, and nothing is written, for a feature of another kind and when a value
+    // or amplitude cannot be read. The two that say so write as they go: they answer E_FAIL, with
+    // the header alone in the file, when the temperature is to be written and cannot be read; other
+    // values are not looked at: a flag that cannot be read is "TRUE ", an amplitude "NULL".
+
+    /// Of an HLXIPressureLoad: user subroutine, pressure, use amplitude, amplitude.
+    static HRESULT DumpPressureParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);
+    /// Of an HLXIGravity: three components, use amplitude, amplitude.
+    static HRESULT DumpGravityParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);
+    /// Of an HLXIRotationalBodyForce: velocity, acceleration, use amplitude, amplitude.
+    static HRESULT DumpRBFParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);
+    /// Of an HLXIConcentratedForce: three components, use amplitude, amplitude.
+    static HRESULT DumpConcForceParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);
+    /// Of an HLXIDisplacementBC: user subroutine; flag and value of each degree of freedom, the
+    /// value also when the flag is FALSE; use amplitude, amplitude.
+    static HRESULT DumpDispBCParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);
+    /// Of an HLXITemperatureHistory, as it goes: for distribution 0 the temperature; for 2 nothing;
+    /// for others steps, increments and analysis case; then user subroutine, use amplitude,
+    /// amplitude. The distribution is that of its HLXITemperature; without an answer it is 2.
+    static HRESULT DumpTempHistParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);
+    /// Of an HLXITemperature, as it goes: temperature, user subroutine, use amplitude, amplitude.
+    static HRESULT DumpTempBCParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);
+    /// Of an HLXIHeatFlux of any kind: magnitude, user subroutine, use amplitude, amplitude.
+    static HRESULT DumpConcHeatFluxParams(VEXISpecObject_var feature,
+                                          VEXUnicodeString reportFilePath);
+    /// Of an HLXIFilmCondition: temperature, whether it depends on temperature, file name, user
+    /// subroutine, use amplitude, amplitude, the same of the film; the first film coefficient and
+    /// its temperature, 0 when there are none.
+    static HRESULT DumpFilmConditionParams(VEXISpecObject_var feature,
+                                           VEXUnicodeString reportFilePath);
 
     // --- Input files --------------------------------------------------------------------------
 

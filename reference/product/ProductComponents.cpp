@@ -9,8 +9,12 @@
 #include "product/amplitudes/AmplitudeFactory.h"
 #include "product/cases/AnalysisCaseAdapters.h"
 #include "product/catalog/CatalogFile.h"
+#include "product/conditions/BoundaryConditionAdapters.h"
+#include "product/conditions/BoundaryConditionFactory.h"
 #include "product/conditions/LoadAdapters.h"
 #include "product/conditions/LoadFactory.h"
+#include "product/conditions/TemperatureAdapters.h"
+#include "product/conditions/TemperatureFactory.h"
 #include "product/jobs/JobAdapters.h"
 #include "product/settings/GeneralSettingController.h"
 #include "product/steps/StepContainerFactory.h"
@@ -28,14 +32,25 @@ constexpr VEXInterfaceRow elementBehaviorFactory[] = {InterfaceRow<ElementBehavi
 constexpr VEXInterfaceRow stepFactory[] = {InterfaceRow<StepFactory>()};
 constexpr VEXInterfaceRow amplitudeFactory[] = {InterfaceRow<AmplitudeFactory>()};
 constexpr VEXInterfaceRow loadFactory[] = {InterfaceRow<LoadFactory>()};
+constexpr VEXInterfaceRow boundaryConditionsFactory[] = {InterfaceRow<BoundaryConditionFactory>()};
+constexpr VEXInterfaceRow temperatureFactory[] = {InterfaceRow<TemperatureFactory>()};
 constexpr VEXInterfaceRow step[] = {InterfaceRow<StepContainerFactory>()};
-constexpr VEXInterfaceRow load[] = {InterfaceRow<LoadAdapter<HLXILoad>>()};
+constexpr VEXInterfaceRow load[] = {InterfaceRow<ConditionAdapter<HLXICondition>>(),
+                                    InterfaceRow<LoadAdapter<HLXILoad>>()};
 constexpr VEXInterfaceRow pressure[] = {InterfaceRow<PressureAdapter>()};
 constexpr VEXInterfaceRow gravity[] = {InterfaceRow<GravityAdapter>()};
 constexpr VEXInterfaceRow rotationalBodyForce[] = {InterfaceRow<RotationalBodyForceAdapter>()};
 constexpr VEXInterfaceRow concentratedForce[] = {InterfaceRow<ConcentratedForceAdapter>()};
 constexpr VEXInterfaceRow heatFlux[] = {InterfaceRow<HeatFluxAdapter>()};
 constexpr VEXInterfaceRow filmCondition[] = {InterfaceRow<FilmConditionAdapter>()};
+constexpr VEXInterfaceRow boundaryCondition[] = {
+    InterfaceRow<ConditionAdapter<HLXICondition>>(),
+    InterfaceRow<ConditionAdapter<HLXIBoundaryCondition>>()};
+constexpr VEXInterfaceRow displacement[] = {InterfaceRow<DisplacementAdapter>()};
+constexpr VEXInterfaceRow motion[] = {InterfaceRow<MotionAdapter>()};
+constexpr VEXInterfaceRow temperature[] = {InterfaceRow<ConditionAdapter<HLXICondition>>(),
+                                           InterfaceRow<TemperatureAdapter>()};
+constexpr VEXInterfaceRow temperatureHistory[] = {InterfaceRow<TemperatureHistoryAdapter>()};
 constexpr VEXInterfaceRow amplitude[] = {InterfaceRow<AmplitudeAdapter<HLXIAmplitude>>()};
 constexpr VEXInterfaceRow tabularAmplitude[] = {
     InterfaceRow<AmplitudeAdapter<HLXITabularAmplitude>>()};
@@ -69,6 +84,11 @@ constexpr VEXComponentRow components[] = {
     {"HLXConcentratedForce", "HLXLoad", concentratedForce, nullptr},
     {"HLXHeatFlux", "HLXLoad", heatFlux, nullptr},
     {"HLXFilmCondition", "HLXLoad", filmCondition, nullptr},
+    {"HLXBoundaryConditionLT", "HLXEntity", boundaryCondition, nullptr},
+    {"HLXDisplacementBC", "HLXBoundaryConditionLT", displacement, nullptr},
+    {"HLXMotionBCLT", "HLXBoundaryConditionLT", motion, nullptr},
+    {"HLXBaseTemperatureLT", "HLXEntity", temperature, nullptr},
+    {"HLXTemperatureHistoryLT", "HLXBaseTemperatureLT", temperatureHistory, nullptr},
     {"HLXAmplitudeLT", "VEXFeature", amplitude, nullptr},
     {"HLXTabularAmplitudeLT", "HLXAmplitudeLT", tabularAmplitude, nullptr},
     {"HLXSmoothStepAmplitudeLT", "HLXAmplitudeLT", smoothStepAmplitude, nullptr},
@@ -80,6 +100,9 @@ constexpr VEXComponentRow components[] = {
     {"HLXAnalysisStepFact", nullptr, stepFactory, MakeService<"HLXAnalysisStepFact">},
     {"HLXAmplitudeFact", nullptr, amplitudeFactory, MakeService<"HLXAmplitudeFact">},
     {"HLXLoadFact", nullptr, loadFactory, MakeService<"HLXLoadFact">},
+    {"HLXBoundaryConditionsFact", nullptr, boundaryConditionsFactory,
+     MakeService<"HLXBoundaryConditionsFact">},
+    {"HLXTemperatureFact", nullptr, temperatureFactory, MakeService<"HLXTemperatureFact">},
     {GeneralSettingController::Name, nullptr, settingController, &GeneralSettingController::Create},
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Entities: what is applied to a region of the model in a step, such as a load. Their parameters
-// and their supports.
+// Entities: what is applied to a region of the model in a step, such as a load or a boundary
+// condition. Their parameters and their supports.
 #pragma once
 
 #include "VEXFeatures.h"
@@ -24,9 +24,42 @@ public:
 
 VEX_INTERFACE(VEXIParameter);
 
-/// Marks the entities among the features.
+/// Numbers of an entity that belong together, such as the components of a vector. It holds its
+/// entity, as VEXIParameter does. Names of ours: all.
+class VEXIVectorParameter : public VEXBaseUnknown
+{
+public:
+    /// Gives one component another value.
+    /// @param value   in the unit
+    /// @param unit    empty: the units of the document; there are no others
+    /// @param row     the component, from 1
+    /// @param column  1: a vector has one column
+    /// @param option  0; there are no others
+    /// @return S_OK; E_INVALIDARG for a value that is not finite (the old one stays), another unit,
+    /// no such component, another option; E_FAIL when the entity is gone
+    virtual HRESULT SetComponent(double value, const VEXUnicodeString& unit, int row, int column,
+                                 int option) = 0;
+
+    /// One component; the catalogue's default when none was given.
+    /// @param value  receives it; 0 on failure
+    /// @return S_OK; E_INVALIDARG for no such component; E_FAIL when the entity is gone
+    virtual HRESULT GetComponent(double& value, int row, int column) const = 0;
+};
+
+VEX_INTERFACE(VEXIVectorParameter);
+
+/// An entity by what it is made of. Names of ours: GetVectorParameter.
 class VEXISamAnalysisEntity : public VEXBaseUnknown
-{};
+{
+public:
+    /// Finds a vector parameter: an attribute of kind "list" whose default tells how many
+    /// components it has; a list that is empty by default is none.
+    /// @param name       of the attribute, such as "DisplBCTrans"
+    /// @param parameter  receives it; empty on failure
+    /// @return S_OK; E_FAIL when there is none of that name or the entity is gone
+    virtual HRESULT GetVectorParameter(const VEXUnicodeString& name,
+                                       VEXIVectorParameter_var& parameter) = 0;
+};
 
 VEX_INTERFACE(VEXISamAnalysisEntity);
 

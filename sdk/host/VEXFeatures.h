@@ -45,6 +45,41 @@ public:
                                                         const VEXUnicodeString& facet) const = 0;
 };
 
+/// What tells an attribute of a feature in calls that set and give its value; a VEXISpecAttribute
+/// is one too. Names of ours: all.
+class VEXISpecAttrKey : public VEXBaseUnknown
+{
+public:
+    /// The attribute's name in the catalogue.
+    virtual VEXUnicodeString GetName() const = 0;
+};
+
+VEX_INTERFACE(VEXISpecAttrKey);
+
+/// The values of a feature's attributes, by key. Names of ours: GetAttrKey, SetBoolean, GetBoolean.
+class VEXISpecAttrAccess : public VEXBaseUnknown
+{
+public:
+    /// The key of an attribute; empty when the feature has none of that name or is gone.
+    virtual VEXISpecAttrKey_var GetAttrKey(const VEXUnicodeString& name) const = 0;
+
+    /// Sets an attribute of kind "boolean".
+    /// @param key      from GetAttrKey of this feature, or one of its listed attributes
+    /// @param value    any byte but 0 is true
+    /// @param context  0: the value holds wherever the feature is used; there are no others
+    /// @return S_OK; E_INVALIDARG for an empty key or one of another feature or kind, and for
+    /// another context; E_FAIL when the feature is gone
+    virtual HRESULT SetBoolean(const VEXISpecAttrKey_var& key, unsigned char value,
+                               int context) = 0;
+    /// Gives the value of an attribute of kind "boolean".
+    /// @param value  receives 0 or 1; 0 on failure
+    /// @return as SetBoolean
+    virtual HRESULT GetBoolean(const VEXISpecAttrKey_var& key, unsigned char& value,
+                               int context) const = 0;
+};
+
+VEX_INTERFACE(VEXISpecAttrAccess);
+
 /// The displayed name of a feature.
 /// Names of ours: SetAlias.
 class VEXIAlias : public VEXBaseUnknown

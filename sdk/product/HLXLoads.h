@@ -1,28 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-// The kinds of load. All numbers are finite (E_INVALIDARG for others, the old one stays) and in the
-// units of the document. Each operation answers S_OK, or E_FAIL when the load is gone; a getter
-// then gives 0 or nothing.
+// The kinds of load. What is said of numbers and results in HLXConditions.h holds here.
 #pragma once
 
-#include "VEXEntities.h"
+#include "HLXConditions.h"
 
 /// What loads have in common: every load has it at the same places. Names of ours: all.
-class HLXILoad : public VEXBaseUnknown
+class HLXILoad : public HLXICondition
 {
 public:
-    /// Gives the load an amplitude, which says how it goes with time.
-    /// @param amplitude  an amplitude of the load's document; empty: none
-    /// @return also E_INVALIDARG for another object
-    virtual HRESULT SetAmplitude(const VEXISpecObject_var& amplitude) = 0;
-
-    /// Whether the amplitude is used (not 0); it is kept while it is not.
-    virtual HRESULT SetUseAmplitude(unsigned char flag) = 0;
-
-    /// The amplitude, and whether it is used.
-    /// @param amplitude  receives it; empty when there is none
-    virtual HRESULT GetAmplitude(VEXISpecObject_var& amplitude) const = 0;
-    virtual HRESULT GetUseAmplitude(unsigned char& flag) const = 0;
-
     /// Whether the size of the load comes from a user's subroutine of the solver (not 0).
     virtual HRESULT SetUserSubroutine(unsigned char flag) = 0;
     virtual HRESULT GetUserSubroutine(unsigned char& flag) const = 0;

@@ -30,6 +30,29 @@ public:
     static HRESULT GetAnalysisSets(VEXListValVEXBaseUnknown_var& sets, VEXDocument* document,
                                    VEXUnicodeString lateType);
 
+    /// Finds the step of the current case that holds before all others: its initial step, the first
+    /// of several. The current case is the first one of the document's current model.
+    /// @param step               receives the step with a reference added that the caller releases;
+    ///                           null on failure
+    /// @param containerLateType  a container that the step is to have, of those of initial steps:
+    ///                           "HLXHacFieldContainerLT", "HLXBoundaryConditionContainerLT",
+    ///                           "HLXInteractionContainerLT"; empty: whichever it has
+    /// @param stepName           empty: any name will do; receives the name of the step. Another
+    ///                           text: only an initial step of that name is taken. Left as it is on
+    ///                           failure
+    /// @param make               0: only a step that has the container is taken; not 0: the first
+    ///                           one is, and what is missing of step and container is made. A new
+    ///                           step stands in front of the others; without another name it is
+    ///                           called "Initial"
+    /// @param document           an open analysis document
+    /// @return S_OK; E_INVALIDARG for no open analysis document, another type, and a name that is
+    /// not valid UTF-8 or has a zero; E_FAIL without a current model or a case in it, and when
+    /// nothing was found or made
+    static HRESULT ValidateStep(VEXISamAnalysisSet*& step,
+                                const VEXUnicodeString& containerLateType,
+                                VEXUnicodeString& stepName, unsigned char make,
+                                VEXDocument* document);
+
     /// Appends the jobs in the job containers of the cases, in order.
     /// @param cases  each an analysis case of an open document
     /// @return S_OK, also when there is none; E_INVALIDARG, nothing appended, for an entry that is

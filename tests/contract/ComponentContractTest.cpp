@@ -4,6 +4,7 @@
 // each of them.
 #include "VEXComponents.h"
 #include "VEXDocumentServices.h"
+#include "VEXEntities.h"
 #include "VEXFeatures.h"
 #include "VEXMetaClass.h"
 #include "host/analysis/EntityParameter.h"
@@ -55,7 +56,7 @@ private:
         }
     }
 
-    /// One feature of each late type, attributes, and a parameter.
+    /// One feature of each late type, attributes, a key of one, and parameters.
     void AddFeatures()
     {
         vex::FeatureTree& tree = vex::Document::From(_documents.front())->Tree();
@@ -73,6 +74,14 @@ private:
         vex::Feature& gravity =
             tree.Create(vex::LateTypes::Instance().Require("HLXGravity"), tree.Roots().front());
         _objects.push_back(vex::ParameterOf(gravity, "ComponentX"));
+        vex::Feature& displacement = tree.Create(
+            vex::LateTypes::Instance().Require("HLXDisplacementBC"), tree.Roots().front());
+        VEXIVectorParameter_var vector;
+        EXPECT_EQ(vex::FaceOf<VEXISamAnalysisEntity>(&displacement)
+                      ->GetVectorParameter("DisplBCTrans", vector),
+                  S_OK);
+        _objects.push_back(vector);
+        _objects.push_back(vex::FaceOf<VEXISpecAttrAccess>(&displacement)->GetAttrKey("fixON"));
     }
 
     void AddServices()

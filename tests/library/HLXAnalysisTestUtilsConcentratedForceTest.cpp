@@ -26,8 +26,8 @@ TEST_F(ConcentratedForceTest, IsNamedValuedGivenItsAmplitudeAndPutOnAVertex)
                   "HLXIConcentratedForce::SetComponentZ(0)",
                   "VEXInstantiateComponent(\"HLXAmplitudeFact\", HLXIAmplitudeFact, &)",
                   "HLXIAmplitudeFact::CreateTabularAmplitude(&, VEXAnalysisDocument)",
-                  "HLXILoad::SetUseAmplitude(1)",
-                  "HLXILoad::SetAmplitude(HLXTabularAmplitudeLT)",
+                  "HLXICondition::SetUseAmplitude(1)",
+                  "HLXICondition::SetAmplitude(HLXTabularAmplitudeLT)",
                   "VEXISamDocumentManager::GetLinkedDocuments(&)",
                   "VEXIPrtContainer::GetMechanicalPart()",
                   "VEXIPartRequest::GetMainBody(\"\", &)",
@@ -68,13 +68,14 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     OfItsAmplitude, ConcentratedForceExitTest,
     testing::Values(
-        LoadExit{"NotUsed", "HLXILoad::SetUseAmplitude=E_ACCESSDENIED", kSuccess,
+        LoadExit{"NotUsed", "HLXICondition::SetUseAmplitude=E_ACCESSDENIED", kSuccess,
                  "Load: 1 0 0 amplitude 1 on vertex 1 of box.VEXPart, ", 1},
-        LoadExit{"NotSet", "HLXILoad::SetAmplitude=E_FAIL", kSilent, "Load: 1 0 0 used", 1},
-        LoadExit{"Denied", "HLXILoad::SetAmplitude=E_ACCESSDENIED", kSilent, "Load: 1 0 0 used", 1},
-        LoadExit{"SetAllTheSame", "HLXILoad::SetAmplitude=E_UNEXPECTED,keep", kSilent,
+        LoadExit{"NotSet", "HLXICondition::SetAmplitude=E_FAIL", kSilent, "Load: 1 0 0 used", 1},
+        LoadExit{"Denied", "HLXICondition::SetAmplitude=E_ACCESSDENIED", kSilent,
+                 "Load: 1 0 0 used", 1},
+        LoadExit{"SetAllTheSame", "HLXICondition::SetAmplitude=E_UNEXPECTED,keep", kSilent,
                  "Load: 1 0 0 amplitude 1 used", 1},
-        LoadExit{"Positive", "HLXILoad::SetAmplitude=S_FALSE,keep", kSuccess, kWhole, 1}),
+        LoadExit{"Positive", "HLXICondition::SetAmplitude=S_FALSE,keep", kSuccess, kWhole, 1}),
     NameOfLoadExit);
 
 }  // namespace

@@ -134,17 +134,18 @@ INSTANTIATE_TEST_SUITE_P(
             withAmplitude},
         GravityExit{{"PositiveTable", "HLXIAmplitude::SetData=S_FALSE,keep", S_OK, ""},
                     completeGravity},
-        GravityExit{{"FailingFlag", "HLXILoad::SetUseAmplitude=E_ACCESSDENIED", S_OK, ""},
+        GravityExit{{"FailingFlag", "HLXICondition::SetUseAmplitude=E_ACCESSDENIED", S_OK, ""},
                     "Name; : 0 0 -9.81 amplitude 1 on body of box.VEXPart, GeometrySmartConnector; "
                     "10 rows"},
         GravityExit{
-            {"FailingFlagThoughSet", "HLXILoad::SetUseAmplitude=E_UNEXPECTED,keep", S_OK, ""},
+            {"FailingFlagThoughSet", "HLXICondition::SetUseAmplitude=E_UNEXPECTED,keep", S_OK, ""},
             completeGravity},
-        GravityExit{{"FailingSetter", "HLXILoad::SetAmplitude=E_ACCESSDENIED", E_FAIL, ""}, used},
+        GravityExit{{"FailingSetter", "HLXICondition::SetAmplitude=E_ACCESSDENIED", E_FAIL, ""},
+                    used},
         GravityExit{
-            {"FailingSetterThoughSet", "HLXILoad::SetAmplitude=E_UNEXPECTED,keep", E_FAIL, ""},
+            {"FailingSetterThoughSet", "HLXICondition::SetAmplitude=E_UNEXPECTED,keep", E_FAIL, ""},
             given},
-        GravityExit{{"PositiveSetter", "HLXILoad::SetAmplitude=S_FALSE,keep", S_OK, ""},
+        GravityExit{{"PositiveSetter", "HLXICondition::SetAmplitude=S_FALSE,keep", S_OK, ""},
                     completeGravity}),
     NameOfRow);
 

@@ -27,8 +27,8 @@ std::vector<std::string> CallsWithAlias(bool aliasIsSet)
         "VEXIParameter::Valuate(5.25)",
         "VEXInstantiateComponent(\"HLXAmplitudeFact\", HLXIAmplitudeFact, &)",
         "HLXIAmplitudeFact::CreateTabularAmplitude(&, VEXAnalysisDocument)",
-        "HLXILoad::SetUseAmplitude(1)",
-        "HLXILoad::SetAmplitude(HLXTabularAmplitudeLT)",
+        "HLXICondition::SetUseAmplitude(1)",
+        "HLXICondition::SetAmplitude(HLXTabularAmplitudeLT)",
         "VEXISamDocumentManager::GetLinkedDocuments(&)",
         "VEXIPrtContainer::GetMechanicalPart()",
         "VEXIPartRequest::GetMainBody(\"\", &)",
@@ -106,17 +106,18 @@ const Outcome kNoAmplitude{E_FAIL, "********** Could not set user sub attribute\
 
 INSTANTIATE_TEST_SUITE_P(
     OfItsAmplitude, RotationalExitTest,
-    testing::Values(
-        LoadExit{"NotUsed", "HLXILoad::SetUseAmplitude=E_ACCESSDENIED", kSuccess,
-                 ": 1.73205 5.25 about Edge-1 amplitude 1 on body of box.VEXPart, "
-                 "GeometrySmartConnector",
-                 1},
-        LoadExit{"NotSet", "HLXILoad::SetAmplitude=E_FAIL", kNoAmplitude, ": 1.73205 5.25 used", 1},
-        LoadExit{"Denied", "HLXILoad::SetAmplitude=E_ACCESSDENIED", kNoAmplitude,
-                 ": 1.73205 5.25 used", 1},
-        LoadExit{"SetAllTheSame", "HLXILoad::SetAmplitude=E_UNEXPECTED,keep", kNoAmplitude,
-                 ": 1.73205 5.25 amplitude 1 used", 1},
-        LoadExit{"Positive", "HLXILoad::SetAmplitude=S_FALSE,keep", kSuccess, kWhole, 1}),
+    testing::Values(LoadExit{"NotUsed", "HLXICondition::SetUseAmplitude=E_ACCESSDENIED", kSuccess,
+                             ": 1.73205 5.25 about Edge-1 amplitude 1 on body of box.VEXPart, "
+                             "GeometrySmartConnector",
+                             1},
+                    LoadExit{"NotSet", "HLXICondition::SetAmplitude=E_FAIL", kNoAmplitude,
+                             ": 1.73205 5.25 used", 1},
+                    LoadExit{"Denied", "HLXICondition::SetAmplitude=E_ACCESSDENIED", kNoAmplitude,
+                             ": 1.73205 5.25 used", 1},
+                    LoadExit{"SetAllTheSame", "HLXICondition::SetAmplitude=E_UNEXPECTED,keep",
+                             kNoAmplitude, ": 1.73205 5.25 amplitude 1 used", 1},
+                    LoadExit{"Positive", "HLXICondition::SetAmplitude=S_FALSE,keep", kSuccess,
+                             kWhole, 1}),
     NameOfLoadExit);
 
 // --- Axis and body ------------------------------------------------------------------------------

@@ -73,16 +73,28 @@ protected:
         }
     }
 
-private:
-    static vex::Feature& FeatureOf(const VEXBaseUnknown_var& object)
-    {
-        return dynamic_cast<vex::Feature&>(*object->GetImpl());
-    }
-
+    /// The shortest text that reads back as the number.
     static std::string TextOf(double number)
     {
         char digits[32];
         return {digits, std::to_chars(digits, digits + sizeof digits, number).ptr};
+    }
+
+    /// Of an amplitude among those of the document, from 1.
+    std::string PlaceOf(const VEXISpecObject_var& amplitude)
+    {
+        const VEXListValVEXBaseUnknown_var amplitudes = Amplitudes();
+        int place = 1;
+        while (place <= amplitudes.Size() && !(amplitudes[place] == amplitude)) {
+            ++place;
+        }
+        return std::to_string(place);
+    }
+
+private:
+    static vex::Feature& FeatureOf(const VEXBaseUnknown_var& object)
+    {
+        return dynamic_cast<vex::Feature&>(*object->GetImpl());
     }
 
     static std::string TextOf(const VEXRawColldouble& numbers)
@@ -101,16 +113,6 @@ private:
         double number = -1;
         EXPECT_EQ((object.Get()->*getter)(number), S_OK);
         return TextOf(number);
-    }
-
-    std::string PlaceOf(const VEXISpecObject_var& amplitude)
-    {
-        const VEXListValVEXBaseUnknown_var amplitudes = Amplitudes();
-        int place = 1;
-        while (place <= amplitudes.Size() && !(amplitudes[place] == amplitude)) {
-            ++place;
-        }
-        return std::to_string(place);
     }
 
     std::string ValuesOf(const VEXBaseUnknown_var& created)

@@ -5,7 +5,6 @@
 #include "names/DumpGrammar.h"
 #include "names/HostileNames.h"
 #include "names/NamedAnalysis.h"
-#include "support/Sanitized.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +18,7 @@ constexpr std::size_t kLong = std::size_t{1} << 20U;
 
 /// Seconds of computing; far more than what is needed, and far less than what grows with a square
 /// takes.
-constexpr double kPatience = hlxtest::kSanitized ? 20.0 : 2.0;
+constexpr double kPatience = 20.0;
 
 constexpr const char* kBearer = "HLXTabularAmplitudeLT";
 

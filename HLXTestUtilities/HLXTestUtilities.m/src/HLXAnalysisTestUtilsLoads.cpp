@@ -38,12 +38,8 @@ HRESULT HLXAnalysisTestUtils::CreateGravity(VEXDocument* document, VEXUnicodeStr
     load->SetUseAmplitude(on);
     if (FAILED(load->SetAmplitude(amplitude))) return E_FAIL;
 
-    HLXPartSupport::Part part;
-    if (FAILED(HLXPartSupport::FindPart(document, part))) return E_FAIL;
-    const VEXILinkableObject_var body = HLXPartSupport::FindBody(part);
-    if (body == nullptr) return E_FAIL;
-    if (FAILED(HLXPartSupport::Add(support, body, part, smartConnector))) {
-        return Fail("Could not add support to gravity load");
+    if (FAILED(SupportOnBody(document, support, "Could not add support to gravity load"))) {
+        return E_FAIL;
     }
     gravity = created;
     return S_OK;

@@ -57,6 +57,13 @@ inline HRESULT Fail(const char* message)
     return E_FAIL;
 }
 
+/// As Fail, for messages that end a line without flushing.
+inline HRESULT FailUnflushed(const char* message)
+{
+    Print(message, "\n");
+    return E_FAIL;
+}
+
 /// As Fail, on standard error.
 inline HRESULT FailOnStandardError(const char* message)
 {

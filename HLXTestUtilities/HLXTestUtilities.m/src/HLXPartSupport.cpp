@@ -37,8 +37,8 @@ VEXILinkableObject_var HLXPartSupport::FindBody(const Part& part)
     return body;
 }
 
-VEXILinkableObject_var HLXPartSupport::Decode(const Part& part, const VEXCell_var& cell,
-                                              const Cells& cells)
+VEXIBRepAccess_var HLXPartSupport::Decode(const Part& part, const VEXCell_var& cell,
+                                          const Cells& cells)
 {
     return VEXBRepDecode(part.brepContainer, cell, cells.body);
 }

@@ -36,8 +36,8 @@ HRESULT FindCells(Part& part, Cells& cells);
 /// The part's main body as the target of links; empty when there is none.
 VEXILinkableObject_var FindBody(const Part& part);
 
-/// A cell as the target of links that can be stored; empty when it cannot be had.
-VEXILinkableObject_var Decode(const Part& part, const VEXCell_var& cell, const Cells& cells);
+/// A cell as an access that links to it can be stored with; empty when it cannot be had.
+VEXIBRepAccess_var Decode(const Part& part, const VEXCell_var& cell, const Cells& cells);
 
 /// Adds geometry of the part as a support. @return the platform's result; E_FAIL for an empty
 /// handle

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-// Supports of entities, and entities that follow the mesh.
+// Parameters and supports of entities, and entities that follow the mesh.
 #include "host/analysis/EntityAdapters.h"
 
 #include "host/analysis/AnalysisObjects.h"
+#include "host/analysis/EntityParameter.h"
 #include "host/feature/Refusal.h"
 #include "host/part/Region.h"
 #include "host/part/RegionGeometry.h"
@@ -10,6 +11,17 @@
 #include "host/system/Texts.h"
 
 namespace vex {
+
+HRESULT AnalysisEntityAdapter::GetVectorParameter(const VEXUnicodeString& name,
+                                                  VEXIVectorParameter_var& parameter)
+{
+    return Probe<"VEXISamAnalysisEntity::GetVectorParameter">(
+        [&] {
+            parameter = VectorParameterOf(Self(), name.View());
+            return parameter == nullptr ? E_FAIL : S_OK;
+        },
+        In(name), Out(parameter));
+}
 
 HRESULT AnalysisSupportAdapter::GetSupports(VEXListValVEXBaseUnknown_var& supports) const
 {
@@ -76,12 +88,12 @@ HRESULT MeshNegotiatorAdapter::Subscribe(const VEXISpecObject_var& entity)
             while (model != nullptr && model != &Self()) {
                 model = model->Parent();
             }
-            // An entity of another catalogue need not have the attribute.
-            if (model == nullptr || !Offers<VEXISamAnalysisEntity>(*found) ||
-                found->Kind().IndexOf("FollowsMesh") < 0) {
+            if (model == nullptr || !Offers<VEXISamAnalysisEntity>(*found)) {
                 return E_INVALIDARG;
             }
-            return found->Set("FollowsMesh", true);
+            // An entity of another catalogue need not have the attribute, or of that kind.
+            const int index = found->Kind().IndexOf("FollowsMesh");
+            return index < 0 ? E_INVALIDARG : found->Set(index, true);
         },
         In(entity));
 }

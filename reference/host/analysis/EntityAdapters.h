@@ -15,6 +15,8 @@ class AnalysisEntityAdapter final : public Adapter<VEXISamAnalysisEntity, Featur
 {
 public:
     using Adapter::Adapter;
+    HRESULT GetVectorParameter(const VEXUnicodeString& name,
+                               VEXIVectorParameter_var& parameter) override;
 };
 
 /// Of every entity too: its children that are supports.

@@ -35,6 +35,7 @@ constexpr VEXInterfaceRow analysisEntity[] = {InterfaceRow<AnalysisEntityAdapter
                                               InterfaceRow<AnalysisSupportAdapter>()};
 constexpr VEXInterfaceRow support[] = {InterfaceRow<SupportAdapter>()};
 constexpr VEXInterfaceRow parameter[] = {InterfaceRow<ParameterAdapter>()};
+constexpr VEXInterfaceRow vectorParameter[] = {InterfaceRow<VectorParameterAdapter>()};
 
 HRESULT Start()
 {
@@ -84,6 +85,7 @@ const VEXComponentLibrary& HostComponentLibrary()
         {"VEXSamAnalysisEntity", "VEXFeature", analysisEntity, nullptr},
         {"VEXSamSupport", "VEXFeature", support, nullptr},
         {"VEXSamParameter", nullptr, parameter, nullptr},
+        {"VEXSamVectorParameter", nullptr, vectorParameter, nullptr},
     };
     static const VEXComponentLibrary library = {VEXComponentLibraryVersion, "VEXHost", components,
                                                 &Start};

@@ -4,7 +4,9 @@
 
 #include "host/feature/FeatureSearch.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace vex {
@@ -14,6 +16,22 @@ namespace {
 HRESULT ResultOf(const Feature& feature)
 {
     return feature.Tree() == nullptr ? E_FAIL : S_OK;
+}
+
+/// The numbers of a vector: as many as the default has.
+DoubleList VectorOf(const Feature& feature, std::string_view attribute)
+{
+    const DoubleList& stored = feature.GetAs<DoubleList>(attribute);
+    const auto place = static_cast<std::size_t>(feature.Kind().IndexOf(attribute));
+    const Value& standard = feature.Kind().attributes[place].defaultValue;
+    DoubleList vector = *std::get<Boxed<DoubleList>>(standard);
+    std::copy_n(stored.begin(), std::min(stored.size(), vector.size()), vector.begin());
+    return vector;
+}
+
+bool HasIndex(const DoubleList& vector, int index)
+{
+    return index >= 1 && static_cast<std::size_t>(index) <= vector.size();
 }
 
 }  // namespace
@@ -33,6 +51,22 @@ HRESULT GetNumber(const Feature& feature, std::string_view attribute, double& nu
     return result;
 }
 
+HRESULT SetInteger(Feature& feature, std::string_view attribute, int number)
+{
+    return feature.Set(attribute, std::int64_t{number});
+}
+
+HRESULT GetInteger(const Feature& feature, std::string_view attribute, int& number)
+{
+    if (feature.Tree() == nullptr) {
+        return E_FAIL;
+    }
+    number = static_cast<int>(std::clamp<std::int64_t>(feature.GetAs<std::int64_t>(attribute),
+                                                       std::numeric_limits<int>::min(),
+                                                       std::numeric_limits<int>::max()));
+    return S_OK;
+}
+
 HRESULT SetFlag(Feature& feature, std::string_view attribute, unsigned char flag)
 {
     return feature.Set(attribute, flag != 0);
@@ -40,9 +74,11 @@ HRESULT SetFlag(Feature& feature, std::string_view attribute, unsigned char flag
 
 HRESULT GetFlag(const Feature& feature, std::string_view attribute, unsigned char& flag)
 {
-    const HRESULT result = ResultOf(feature);
-    flag = SUCCEEDED(result) && feature.GetAs<bool>(attribute) ? 1 : 0;
-    return result;
+    if (feature.Tree() == nullptr) {
+        return E_FAIL;
+    }
+    flag = feature.GetAs<bool>(attribute) ? 1 : 0;
+    return S_OK;
 }
 
 HRESULT SetText(Feature& feature, std::string_view attribute, const VEXUnicodeString& text)
@@ -79,6 +115,33 @@ HRESULT GetNumbers(const Feature& feature, std::string_view attribute, VEXRawCol
     for (const double number : feature.GetAs<DoubleList>(attribute)) {
         numbers.Append(number);
     }
+    return S_OK;
+}
+
+HRESULT SetNumberAt(Feature& feature, std::string_view attribute, int index, double number)
+{
+    if (feature.Tree() == nullptr) {
+        return E_FAIL;
+    }
+    DoubleList vector = VectorOf(feature, attribute);
+    if (!HasIndex(vector, index) || !std::isfinite(number)) {
+        return E_INVALIDARG;
+    }
+    vector[static_cast<std::size_t>(index) - 1] = number;
+    return feature.Set(attribute, Boxed<DoubleList>(std::move(vector)));
+}
+
+HRESULT GetNumberAt(const Feature& feature, std::string_view attribute, int index, double& number)
+{
+    number = 0;
+    if (feature.Tree() == nullptr) {
+        return E_FAIL;
+    }
+    const DoubleList vector = VectorOf(feature, attribute);
+    if (!HasIndex(vector, index)) {
+        return E_INVALIDARG;
+    }
+    number = vector[static_cast<std::size_t>(index) - 1];
     return S_OK;
 }
 

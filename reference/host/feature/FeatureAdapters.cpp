@@ -3,6 +3,7 @@
 // answers failure or nothing.
 #include "host/feature/FeatureAdapters.h"
 
+#include "host/feature/AttributeValues.h"
 #include "host/feature/FeatureTree.h"
 #include "host/feature/Refusal.h"
 #include "host/feature/SpecAttribute.h"
@@ -78,6 +79,57 @@ VEXListPtrVEXISpecAttribute* SpecObjectAdapter::ListAttributes(const VEXUnicodeS
             return list;
         },
         In(type), In(role), In(facet));
+}
+
+// ---- VEXISpecAttrAccess ----
+
+HRESULT AttributeAccessAdapter::Find(const VEXISpecAttrKey_var& key, ValueKind kind, int context,
+                                     const SpecAttribute*& attribute) const
+{
+    if (Self().Tree() == nullptr) {
+        return E_FAIL;
+    }
+    attribute = ComponentBehind<SpecAttribute>(key.Get());
+    const bool fits = attribute != nullptr && attribute->IsOf(Self()) && attribute->Kind() == kind;
+    return fits && context == 0 ? S_OK : E_INVALIDARG;
+}
+
+VEXISpecAttrKey_var AttributeAccessAdapter::GetAttrKey(const VEXUnicodeString& name) const
+{
+    return Probe<"VEXISpecAttrAccess::GetAttrKey">(
+        [&]() -> VEXISpecAttrKey_var {
+            const int index = Self().Kind().IndexOf(name.View());
+            if (Self().Tree() == nullptr || index < 0) {
+                return {};
+            }
+            return VEXAdopt((new SpecAttribute(Self(), index))->Face<VEXISpecAttrKey>());
+        },
+        In(name));
+}
+
+HRESULT AttributeAccessAdapter::SetBoolean(const VEXISpecAttrKey_var& key, unsigned char value,
+                                           int context)
+{
+    return Probe<"VEXISpecAttrAccess::SetBoolean">(
+        [&] {
+            const SpecAttribute* attribute = nullptr;
+            const HRESULT result = Find(key, ValueKind::Boolean, context, attribute);
+            return FAILED(result) ? result : SetFlag(Self(), attribute->Name(), value);
+        },
+        In(key), In(value), In(context));
+}
+
+HRESULT AttributeAccessAdapter::GetBoolean(const VEXISpecAttrKey_var& key, unsigned char& value,
+                                           int context) const
+{
+    return Probe<"VEXISpecAttrAccess::GetBoolean">(
+        [&] {
+            value = 0;
+            const SpecAttribute* attribute = nullptr;
+            const HRESULT result = Find(key, ValueKind::Boolean, context, attribute);
+            return FAILED(result) ? result : GetFlag(Self(), attribute->Name(), value);
+        },
+        In(key), Out(value), In(context));
 }
 
 // ---- VEXIAlias ----
@@ -180,10 +232,12 @@ VEXListValVEXBaseUnknown_var* ContainerAdapter::ListMembers(const char* interfac
 namespace {
 
 constexpr VEXInterfaceRow featureRows[] = {InterfaceRow<SpecObjectAdapter>(),
+                                           InterfaceRow<AttributeAccessAdapter>(),
                                            InterfaceRow<AliasAdapter>()};
 constexpr VEXInterfaceRow containerRows[] = {InterfaceRow<ContainerAdapter>(),
                                              InterfaceRow<DescendantsAdapter>()};
-constexpr VEXInterfaceRow specAttributeRows[] = {InterfaceRow<SpecAttributeAdapter>()};
+constexpr VEXInterfaceRow specAttributeRows[] = {InterfaceRow<SpecAttributeAdapter>(),
+                                                 InterfaceRow<SpecAttrKeyAdapter>()};
 
 }  // namespace
 

@@ -13,6 +13,8 @@
 
 namespace vex {
 
+class SpecAttribute;
+
 /// Removes the features whose component lacks the interface of that name; null: all.
 VEX_EXPORT void KeepImplementing(const char* interfaceName, std::vector<Feature*>& features);
 
@@ -25,6 +27,21 @@ public:
     VEXListPtrVEXISpecAttribute* ListAttributes(const VEXUnicodeString& type,
                                                 const VEXUnicodeString& role,
                                                 const VEXUnicodeString& facet) const override;
+};
+
+class VEX_EXPORT AttributeAccessAdapter : public Adapter<VEXISpecAttrAccess, Feature>
+{
+public:
+    using Adapter::Adapter;
+    VEXISpecAttrKey_var GetAttrKey(const VEXUnicodeString& name) const override;
+    HRESULT SetBoolean(const VEXISpecAttrKey_var& key, unsigned char value, int context) override;
+    HRESULT GetBoolean(const VEXISpecAttrKey_var& key, unsigned char& value,
+                       int context) const override;
+
+private:
+    /// The attribute of this feature that a key is of. @return S_OK; E_INVALIDARG; E_FAIL
+    HRESULT Find(const VEXISpecAttrKey_var& key, ValueKind kind, int context,
+                 const SpecAttribute*& attribute) const;
 };
 
 class VEX_EXPORT AliasAdapter : public Adapter<VEXIAlias, Feature>

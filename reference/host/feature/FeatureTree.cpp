@@ -33,9 +33,9 @@ Feature& FeatureTree::Create(const LateType& lateType, Feature* parent, Feature*
     return *feature;
 }
 
-Feature& AddFeature(Feature& parent, std::string_view lateType)
+Feature& AddFeature(Feature& parent, std::string_view lateType, Feature* before)
 {
-    return parent.Tree()->Create(LateTypes::Instance().Require(lateType), &parent);
+    return parent.Tree()->Create(LateTypes::Instance().Require(lateType), &parent, before);
 }
 
 Feature* FeatureTree::Restore(const LateType& lateType, Feature* parent, FeatureId id)

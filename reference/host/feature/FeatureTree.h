@@ -75,9 +75,10 @@ private:
     std::uint64_t _changes = 0;
 };
 
-/// Makes a feature of a late type that the program text names (LateTypes::Require) at the end of
-/// `parent`, which is in a tree. Not counted.
-VEX_EXPORT Feature& AddFeature(Feature& parent, std::string_view lateType);
+/// Makes a feature of a late type that the program text names (LateTypes::Require) below `parent`,
+/// which is in a tree, placed as by FeatureTree::Create. Not counted.
+VEX_EXPORT Feature& AddFeature(Feature& parent, std::string_view lateType,
+                               Feature* before = nullptr);
 
 template <class Visit>
 void FeatureTree::Walk(Feature& root, Visit&& visit)

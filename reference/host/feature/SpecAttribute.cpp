@@ -37,12 +37,11 @@ SpecAttribute::SpecAttribute(Feature& feature, int index)
       _index(index)
 {}
 
-const std::string& SpecAttribute::Name() const
+const AttributeDefinition& SpecAttribute::Definition() const
 {
     return static_cast<Feature*>(_feature.Get())
         ->Kind()
-        .attributes[static_cast<std::size_t>(_index)]
-        .name;
+        .attributes[static_cast<std::size_t>(_index)];
 }
 
 VEXISpecObject* SpecAttributeAdapter::GetValueObject() const
@@ -54,6 +53,11 @@ VEXISpecObject* SpecAttributeAdapter::GetValueObject() const
 VEXUnicodeString SpecAttributeAdapter::GetName() const
 {
     return Probe<"VEXISpecAttribute::GetName">([&] { return VEXUnicodeString(Self().Name()); });
+}
+
+VEXUnicodeString SpecAttrKeyAdapter::GetName() const
+{
+    return Probe<"VEXISpecAttrKey::GetName">([&] { return VEXUnicodeString(Self().Name()); });
 }
 
 }  // namespace vex

@@ -23,13 +23,18 @@ class SpecAttribute final : public Component
 public:
     SpecAttribute(Feature& feature, int index);
 
-    const std::string& Name() const;
+    const std::string& Name() const { return Definition().name; }
+    ValueKind Kind() const { return Definition().kind; }
+    /// Whether it is an attribute of that feature.
+    bool IsOf(const Feature& feature) const { return _feature.Get() == &feature; }
     /// The feature referred to; null for another kind, an empty reference, or one whose target or
     /// whose own feature is gone.
     Feature* Target() const { return static_cast<Feature*>(_feature.Get())->Target(_index); }
     int IsNull() const override { return _feature->IsNull(); }
 
 private:
+    const AttributeDefinition& Definition() const;
+
     VEXBaseUnknown_var _feature;
     int _index;
 };
@@ -39,6 +44,14 @@ class SpecAttributeAdapter final : public Adapter<VEXISpecAttribute, SpecAttribu
 public:
     using Adapter::Adapter;
     VEXISpecObject* GetValueObject() const override;
+    VEXUnicodeString GetName() const override;
+};
+
+/// The attribute as the key of its value.
+class SpecAttrKeyAdapter final : public Adapter<VEXISpecAttrKey, SpecAttribute>
+{
+public:
+    using Adapter::Adapter;
     VEXUnicodeString GetName() const override;
 };
 

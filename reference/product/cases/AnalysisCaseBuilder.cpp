@@ -5,6 +5,8 @@
 #include "host/feature/FeatureSearch.h"
 #include "host/feature/FeatureTree.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <unordered_set>
 
@@ -19,7 +21,7 @@ constexpr const char* caseType = "HLXHacAnalysisCaseLT";
 constexpr const char* behaviorType = "HLXElementBehaviorLT";
 
 /// What can hold before the first step: conditions, contacts and fields, no loads.
-constexpr const char* initialContainers[] = {
+constexpr std::string_view initialContainers[] = {
     "HLXBoundaryConditionContainerLT",
     "HLXInteractionContainerLT",
     "HLXHacFieldContainerLT",
@@ -49,15 +51,25 @@ Feature& AddAnalysisCase(Feature& model, HLXIAnalysisCase::analysisTypeEnum type
     Feature& analysisCase = AddFeature(model, caseType);
     analysisCase.SetAlias(alias);
     analysisCase.Set("AnalysisType", std::int64_t{type});
-    Feature& initialStep =
-        AddFeature(AddFeature(analysisCase, "HLXHacSimHistLT"), "HLXHacInitialStepLT");
-    initialStep.SetAlias("Initial");
-    for (const char* const container : initialContainers) {
-        AddFeature(initialStep, container);
-    }
+    AddInitialStep(AddFeature(analysisCase, "HLXHacSimHistLT"), "Initial");
     AddFeature(analysisCase, "HLXJobContainerLT");
     AddFeature(analysisCase, "HLXHacSolutionLT");
     return analysisCase;
+}
+
+bool IsInInitialSteps(std::string_view containerType)
+{
+    return std::ranges::find(initialContainers, containerType) != std::end(initialContainers);
+}
+
+Feature& AddInitialStep(Feature& history, std::string_view alias)
+{
+    Feature& step = AddFeature(history, "HLXHacInitialStepLT", history.Children().front());
+    step.SetAlias(alias);
+    for (const std::string_view container : initialContainers) {
+        AddFeature(step, container);
+    }
+    return step;
 }
 
 Feature& AddElementBehavior(Feature& analysisCase)

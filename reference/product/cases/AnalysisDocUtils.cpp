@@ -4,7 +4,10 @@
 #include "HLXProductUtilities.h"
 #include "host/analysis/AnalysisObjects.h"
 #include "host/system/Probe.h"
+#include "host/system/Texts.h"
+#include "product/cases/AnalysisCaseBuilder.h"
 #include "product/cases/AnalysisDocuments.h"
+#include "product/cases/InitialStep.h"
 
 using hlx::AnalysisDocument;
 using vex::Document;
@@ -86,6 +89,38 @@ HRESULT HLXAnalysisDocUtils::GetAnalysisSets(VEXListValVEXBaseUnknown_var& sets,
             return result;
         },
         Out(sets), In(DocumentArgument{document}), In(lateType));
+}
+
+HRESULT HLXAnalysisDocUtils::ValidateStep(VEXISamAnalysisSet*& step,
+                                          const VEXUnicodeString& containerLateType,
+                                          VEXUnicodeString& stepName, unsigned char make,
+                                          VEXDocument* document)
+{
+    return Probe<"HLXAnalysisDocUtils::ValidateStep">(
+        [&]() -> HRESULT {
+            step = nullptr;
+            const Document* const found = AnalysisDocument(document);
+            if (found == nullptr ||
+                !(containerLateType.IsEmpty() || hlx::IsInInitialSteps(containerLateType.View())) ||
+                !vex::text::IsValid(stepName.View())) {
+                return E_INVALIDARG;
+            }
+            Feature* const model = hlx::CurrentModelOf(*found);
+            Feature* const analysisCase =
+                model == nullptr ? nullptr : vex::FirstChild<VEXISamAnalysisCase>(*model);
+            const Feature* const initial =
+                analysisCase == nullptr
+                    ? nullptr
+                    : hlx::FindInitialStep(*analysisCase,
+                                           {containerLateType.View(), stepName.View(), make != 0});
+            step = vex::FaceOf<VEXISamAnalysisSet>(initial).Detach();
+            if (step == nullptr) {
+                return E_FAIL;
+            }
+            stepName = VEXUnicodeString(std::string(initial->Alias()));
+            return S_OK;
+        },
+        Out(step), In(containerLateType), Out(stepName), In(make), In(DocumentArgument{document}));
 }
 
 HRESULT HLXAnalysisDocUtils::GetJobs(const VEXListValVEXBaseUnknown_var& cases,

@@ -3,46 +3,17 @@
 // HLXILoad at the same places.
 #pragma once
 
-#include "HLXAmplitudes.h"
 #include "HLXLoads.h"
-#include "host/component/Adapter.h"
-#include "host/feature/AttributeValues.h"
-#include "host/system/Probe.h"
+#include "product/conditions/ConditionAdapter.h"
 
 namespace hlx {
 
 /// @tparam Interface  HLXILoad, or one that extends it
 template <class Interface>
-class LoadAdapter : public vex::Adapter<Interface, vex::Feature>
+class LoadAdapter : public ConditionAdapter<Interface>
 {
 public:
-    using vex::Adapter<Interface, vex::Feature>::Adapter;
-
-    HRESULT SetAmplitude(const VEXISpecObject_var& amplitude) override
-    {
-        return vex::Probe<"HLXILoad::SetAmplitude">(
-            [&] { return vex::SetTarget<HLXIAmplitude>(this->Self(), "Amplitude", amplitude); },
-            vex::In(amplitude));
-    }
-
-    HRESULT SetUseAmplitude(unsigned char flag) override
-    {
-        return vex::Probe<"HLXILoad::SetUseAmplitude">(
-            [&] { return vex::SetFlag(this->Self(), "UseAmplitude", flag); }, vex::In(flag));
-    }
-
-    HRESULT GetAmplitude(VEXISpecObject_var& amplitude) const override
-    {
-        return vex::Probe<"HLXILoad::GetAmplitude">(
-            [&] { return vex::GetTarget<HLXIAmplitude>(this->Self(), "Amplitude", amplitude); },
-            vex::Out(amplitude));
-    }
-
-    HRESULT GetUseAmplitude(unsigned char& flag) const override
-    {
-        return vex::Probe<"HLXILoad::GetUseAmplitude">(
-            [&] { return vex::GetFlag(this->Self(), "UseAmplitude", flag); }, vex::Out(flag));
-    }
+    using ConditionAdapter<Interface>::ConditionAdapter;
 
     HRESULT SetUserSubroutine(unsigned char flag) override
     {

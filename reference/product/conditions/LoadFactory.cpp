@@ -3,9 +3,8 @@
 #include "product/conditions/LoadFactory.h"
 
 #include "host/analysis/AnalysisObjects.h"
-#include "host/feature/FeatureTree.h"
 #include "host/system/Probe.h"
-#include "product/cases/AnalysisDocuments.h"
+#include "product/conditions/ConditionBuilder.h"
 
 #include <algorithm>
 #include <iterator>
@@ -28,18 +27,7 @@ constexpr std::string_view heatFluxes[] = {
 HRESULT Make(std::string_view lateType, VEXISpecObject_var& load, const VEXDocument* document,
              const VEXISamAnalysisSet_var& step)
 {
-    const vex::Document* const owner = AnalysisDocument(document);
-    const vex::Feature* const found = vex::FeatureBehind(step.Get());
-    if (owner == nullptr || found == nullptr || found->Tree() != &owner->Tree() ||
-        !found->Kind().IsKindOf("HLXStepLT")) {
-        return E_INVALIDARG;
-    }
-    vex::Feature* const container = vex::FirstChildOfType(*found, "HLXLoadContainerLT");
-    if (container == nullptr) {
-        return E_FAIL;
-    }
-    load = vex::FaceOf<VEXISpecObject>(&vex::AddFeature(*container, lateType));
-    return S_OK;
+    return MakeCondition(lateType, "HLXLoadContainerLT", load, document, step);
 }
 
 }  // namespace

@@ -9,18 +9,24 @@ namespace hlx {
 
 namespace {
 
-constexpr std::string_view mechanical[] = {"HLXPressure", "HLXGravity", "HLXRotationalBodyForce",
-                                           "HLXConcentratedForce"};
-constexpr std::string_view thermal[] = {"HLXHeatFlux", "HLXFilmCondition"};
-constexpr std::string_view anyLoad[] = {"HLXLoad"};
+// Heat does nothing without temperatures to solve for. Velocities and accelerations want inertia:
+// where there is none, displacements tell how a region moves.
+constexpr std::string_view inStatics[] = {"HLXHeatFlux", "HLXFilmCondition", "HLXMotionBCLT"};
+constexpr std::string_view inDynamics[] = {"HLXHeatFlux", "HLXFilmCondition"};
+// Nothing moves, and temperatures are what is sought.
+constexpr std::string_view inHeatTransfer[] = {
+    "HLXPressure",       "HLXGravity", "HLXRotationalBodyForce", "HLXConcentratedForce",
+    "HLXDisplacementBC", "HLXClamp",   "HLXMotionBCLT",          "HLXTemperatureHistoryLT"};
+// Modes are of the structure as it is held, whatever drives or heats it.
+constexpr std::string_view inFrequency[] = {"HLXLoad", "HLXMotionBCLT", "HLXBaseTemperatureLT"};
 
 constexpr StepExpectations rows[] = {
-    {"HLXGeneralStaticStepLT", "a general static step", thermal},
-    {"HLXStaticLPStepLT", "a static perturbation step", thermal},
-    {"HLXRiksStepLT", "a Riks step", thermal},
-    {"HLXHeatTransferStepLT", "a heat transfer step", mechanical},
-    {"HLXExplicitDynamicStepLT", "an explicit dynamic step", thermal},
-    {"HLXFrequencyStepLT", "a frequency step", anyLoad},
+    {"HLXGeneralStaticStepLT", "a general static step", inStatics},
+    {"HLXStaticLPStepLT", "a static perturbation step", inStatics},
+    {"HLXRiksStepLT", "a Riks step", inStatics},
+    {"HLXHeatTransferStepLT", "a heat transfer step", inHeatTransfer},
+    {"HLXExplicitDynamicStepLT", "an explicit dynamic step", inDynamics},
+    {"HLXFrequencyStepLT", "a frequency step", inFrequency},
 };
 
 }  // namespace

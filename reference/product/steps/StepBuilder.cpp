@@ -22,11 +22,10 @@ constexpr const char* stepContainers[] = {
     "HLXTemperatureContainerLT",
 };
 
-/// Kinds of step that cannot be added: the bases, and the one that every case has from the start.
+/// Kinds of step that cannot be added, besides the initial ones: the bases.
 constexpr std::string_view otherSteps[] = {
     "HLXStepLT",
     "HLXIncrementedStepLT",
-    "HLXHacInitialStepLT",
 };
 
 }  // namespace
@@ -46,7 +45,7 @@ Feature* AddStep(Feature& analysisCase, std::string_view lateType, std::string_v
         error = "the feature is no analysis case with a simulation history; give an analysis case";
         return nullptr;
     }
-    if (kind == nullptr || !kind->IsKindOf("HLXStepLT") ||
+    if (kind == nullptr || !kind->IsKindOf("HLXStepLT") || kind->IsKindOf("HLXHacInitialStepLT") ||
         std::ranges::find(otherSteps, kind->name) != std::end(otherSteps)) {
         error = vex::text::DoubleQuoted(lateType) +
                 " is no kind of step that can be added; give one such as HLXGeneralStaticStepLT";

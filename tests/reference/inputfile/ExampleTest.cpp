@@ -4,6 +4,7 @@
 #include "host/feature/FeatureSearch.h"
 #include "reference/inputfile/SupportFixture.h"
 
+#include <algorithm>
 #include <sstream>
 
 namespace {
@@ -82,26 +83,56 @@ protected:
         Make("HLXJobLT", jobs, "Job-1_SinglePart").Set("SinglePart", true);
     }
 
-    void MakeLoads(const std::string& bracket, const std::string& cover)
+    void MakeModel()
     {
         Feature& ramp = Make("HLXTabularAmplitudeLT", Model(), "Ramp");
         ramp.Set("Data", vex::Boxed<vex::DoubleTable>({2, {0, 0, 1, 1}}));
         Make("HLXHollexPropertySetLT", Model());
-        const Feature& step = AddStep("HLXGeneralStaticStepLT", "Load up");
+        _ramp = &ramp;
+    }
+
+    /// Puts a condition on geometry, as the platform does.
+    void PutOn(const std::string& part, std::int64_t dimension, std::int64_t index,
+               Feature& feature)
+    {
+        SetText(Region(feature, part, dimension, index), "Connector", "GeometrySmartConnector");
+    }
+
+    void MakeLoads(const Feature& step, const std::string& bracket, const std::string& cover)
+    {
         Feature& pressure = Load("HLXPressure", step, "Pressure.1");
         pressure.Set("Pressure", 1.25);
         pressure.Set("UseAmplitude", true);
-        pressure.Set("Amplitude", vex::Reference{ramp.Id()});
-        SetText(Region(pressure, bracket, 2, 3), "Connector", "GeometrySmartConnector");
+        pressure.Set("Amplitude", vex::Reference{_ramp->Id()});
+        PutOn(bracket, 2, 3, pressure);
         Feature& spin = Load("HLXRotationalBodyForce", step, "Spin.1");
         spin.Set("Velocity", 1.5);
         Region(spin, bracket, 1, 12, "VEXSamAxis");
-        SetText(Region(spin, bracket, 3, 1), "Connector", "GeometrySmartConnector");
+        PutOn(bracket, 3, 1, spin);
         Feature& film = Load("HLXFilmCondition", step, "Film.1");
         film.Set("ReferenceTemperature", 20.0);
         film.Set("Coefficients", vex::Boxed<vex::DoubleList>({1.5, 2.5}));
         film.Set("Temperatures", vex::Boxed<vex::DoubleList>({20, 100}));
         Region(film, cover, 2, 1);
+    }
+
+    void MakeBoundaryConditions(const Feature& step, const std::string& bracket)
+    {
+        const char* const container = "HLXBoundaryConditionContainerLT";
+        const Feature& history = *vex::FirstChildOfType(Case(1), "HLXHacSimHistLT");
+        const Feature& initial = *vex::FirstChildOfType(history, "HLXHacInitialStepLT");
+        PutOn(bracket, 2, 1, MakeIn(container, "HLXClamp", initial, "Wall"));
+        Feature& settling = MakeIn(container, "HLXDisplacementBC", step, "Settling");
+        settling.Set("DisplBCTrans", vex::Boxed<vex::DoubleList>({0, 0, -0.5}));
+        settling.Set("u3ON", true);
+        PutOn(bracket, 2, 6, settling);
+    }
+
+    void MakeTemperature(const Feature& step, const std::string& bracket)
+    {
+        Feature& sun = MakeIn("HLXTemperatureContainerLT", "HLXTemperatureLT", step, "Sun");
+        sun.Set("Magnitude", 60.0);
+        PutOn(bracket, 3, 1, sun);
     }
 
     /// A copy of a specimen under another name.
@@ -111,6 +142,9 @@ protected:
         hlxtest::WriteFile(path, hlxtest::ReadFile(hlxtest::PartSpecimen(folder, specimen)));
         return path;
     }
+
+private:
+    const Feature* _ramp = nullptr;
 };
 
 TEST_F(InputFileExample, IsTrue)
@@ -118,7 +152,11 @@ TEST_F(InputFileExample, IsTrue)
     const std::string bracket = Copy("box", "bracket.VEXPart");
     MakeProduct(bracket);
     MakeJobs();
-    MakeLoads(bracket, Copy("cylinder", "cover.VEXPart"));
+    MakeModel();
+    const Feature& step = AddStep("HLXGeneralStaticStepLT", "Load up");
+    MakeLoads(step, bracket, Copy("cylinder", "cover.VEXPart"));
+    MakeBoundaryConditions(step, bracket);
+    MakeTemperature(step, bracket);
     const Pieces example = Example();
     ASSERT_GT(example.size(), 50u);
     std::size_t next = 0;

@@ -1,30 +1,53 @@
 // SPDX-License-Identifier: Apache-2.0
 // What an input file marks as not expected in a step, typed row by row.
+#include "host/feature/FeatureSearch.h"
 #include "reference/inputfile/SupportFixture.h"
 
+#include <set>
 #include <sstream>
 
 namespace {
 
 using vex::Feature;
 
-const std::pair<const char*, const char*> loads[] = {
-    {"HLXPressure", "PRESSURE"},
-    {"HLXGravity", "GRAVITY"},
-    {"HLXRotationalBodyForce", "ROTATIONAL BODY FORCE"},
-    {"HLXConcentratedForce", "CONCENTRATED FORCE"},
-    {"HLXConcHeatFlux", "CONCENTRATED HEAT FLUX"},
-    {"HLXSurfaceHeatFlux", "SURFACE HEAT FLUX"},
-    {"HLXBodyHeatFlux", "BODY HEAT FLUX"},
-    {"HLXFilmCondition", "FILM CONDITION"},
+enum Group { Force, Heat, Hold, Motion, Prescribed, History };
+
+struct Condition
+{
+    const char* type;
+    const char* keyword;
+    const char* container;
+    Group group;
+};
+
+constexpr const char* loads = "HLXLoadContainerLT";
+constexpr const char* boundaries = "HLXBoundaryConditionContainerLT";
+constexpr const char* temperatures = "HLXTemperatureContainerLT";
+
+// In the order in which a step has the containers.
+const Condition conditions[] = {
+    {"HLXPressure", "PRESSURE", loads, Force},
+    {"HLXGravity", "GRAVITY", loads, Force},
+    {"HLXRotationalBodyForce", "ROTATIONAL BODY FORCE", loads, Force},
+    {"HLXConcentratedForce", "CONCENTRATED FORCE", loads, Force},
+    {"HLXConcHeatFlux", "CONCENTRATED HEAT FLUX", loads, Heat},
+    {"HLXSurfaceHeatFlux", "SURFACE HEAT FLUX", loads, Heat},
+    {"HLXBodyHeatFlux", "BODY HEAT FLUX", loads, Heat},
+    {"HLXFilmCondition", "FILM CONDITION", loads, Heat},
+    {"HLXDisplacementBC", "DISPLACEMENT", boundaries, Hold},
+    {"HLXClamp", "CLAMP", boundaries, Hold},
+    {"HLXMotionBCLT", "MOTION", boundaries, Motion},
+    {"HLXVelocityBCLT", "VELOCITY", boundaries, Motion},
+    {"HLXAccelerationBCLT", "ACCELERATION", boundaries, Motion},
+    {"HLXTemperatureLT", "TEMPERATURE", temperatures, Prescribed},
+    {"HLXTemperatureHistoryLT", "TEMPERATURE HISTORY", temperatures, History},
 };
 
 struct Row
 {
     const char* step;
     const char* words;
-    bool takesForces;
-    bool takesHeat;
+    std::set<Group> expected;
 };
 
 class InputFileExpectations : public hlxtest::SupportTest
@@ -36,6 +59,8 @@ protected:
             std::string error;
             return vex::LateTypes::Instance().Add({{"TstGravity", "HLXGravity", {}},
                                                    {"TstFlux", "HLXHeatFlux", {}},
+                                                   {"TstClamp", "HLXClamp", {}},
+                                                   {"TstHistory", "HLXTemperatureHistoryLT", {}},
                                                    {"TstOtherLoad", "HLXLoad", {}},
                                                    {"TstHeatStep", "HLXHeatTransferStepLT", {}},
                                                    {"TstStep", "HLXStepLT", {}}},
@@ -44,19 +69,32 @@ protected:
         EXPECT_TRUE(added);
     }
 
-    /// Each keyword line of the loads in the step up to its first parameter, with a comment above.
+    /// Each keyword line in the containers of the step's loads, boundary conditions and
+    /// temperatures up to its first parameter, with a comment above, but for those of containers.
+    std::string Lines()
+    {
+        static const std::set<std::string> blocks = {"*BOUNDARY CONDITIONS", "*INTERACTIONS",
+                                                     "*TEMPERATURES"};
+        std::istringstream lines(Between(Text(), "*LOADS", "*END HISTORY"));
+        std::string text;
+        for (std::string line; std::getline(lines, line);) {
+            const std::string keyword = line.substr(0, line.find(','));
+            if (keyword.starts_with('*') && !keyword.starts_with("*END ") &&
+                !blocks.contains(keyword)) {
+                text += keyword + "\n";
+            }
+        }
+        return text;
+    }
+
+    /// As Lines, of a step with these loads.
     std::string Lines(const char* type, const std::vector<const char*>& kinds)
     {
         const Feature& step = AddStep(type);
         for (const char* const kind : kinds) {
             Load(kind, step);
         }
-        std::istringstream lines(TextOfLoads());
-        std::string text;
-        for (std::string line; std::getline(lines, line);) {
-            text += line.substr(0, line.find(',')) + "\n";
-        }
-        return text;
+        return Lines();
     }
 };
 
@@ -66,27 +104,32 @@ class EachStep : public InputFileExpectations, public testing::WithParamInterfac
 TEST_P(EachStep, MarksWhatIsNotExpectedInIt)
 {
     const Row& row = GetParam();
-    const std::string mark = std::string("** not expected in ") + row.words + "\n";
-    std::vector<const char*> kinds;
+    const Feature& step = AddStep(row.step);
     std::string expected;
-    for (const auto& [type, keyword] : loads) {
-        kinds.push_back(type);
-        const bool isForce = kinds.size() <= 4;
-        expected += (isForce ? row.takesForces : row.takesHeat) ? "" : mark;
-        expected += std::string("*") + keyword + "\n";
+    for (const Condition& condition : conditions) {
+        MakeIn(condition.container, condition.type, step);
+        expected += row.expected.contains(condition.group)
+                        ? ""
+                        : std::string("** not expected in ") + row.words + "\n";
+        expected += std::string("*") + condition.keyword + "\n";
     }
-    EXPECT_EQ(Lines(row.step, kinds), expected);
+    EXPECT_EQ(Lines(), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     InputFileExpectations, EachStep,
-    testing::Values(Row{"HLXGeneralStaticStepLT", "a general static step", true, false},
-                    Row{"HLXStaticLPStepLT", "a static perturbation step", true, false},
-                    Row{"HLXRiksStepLT", "a Riks step", true, false},
-                    Row{"HLXHeatTransferStepLT", "a heat transfer step", false, true},
-                    Row{"HLXExplicitDynamicStepLT", "an explicit dynamic step", true, false},
-                    Row{"HLXExplicitDynamicLT", "an explicit dynamic step", true, false},
-                    Row{"HLXFrequencyStepLT", "a frequency step", false, false}),
+    testing::Values(
+        Row{"HLXGeneralStaticStepLT", "a general static step", {Force, Hold, Prescribed, History}},
+        Row{"HLXStaticLPStepLT", "a static perturbation step", {Force, Hold, Prescribed, History}},
+        Row{"HLXRiksStepLT", "a Riks step", {Force, Hold, Prescribed, History}},
+        Row{"HLXHeatTransferStepLT", "a heat transfer step", {Heat, Prescribed}},
+        Row{"HLXExplicitDynamicStepLT",
+            "an explicit dynamic step",
+            {Force, Hold, Motion, Prescribed, History}},
+        Row{"HLXExplicitDynamicLT",
+            "an explicit dynamic step",
+            {Force, Hold, Motion, Prescribed, History}},
+        Row{"HLXFrequencyStepLT", "a frequency step", {Hold}}),
     [](const auto& row) { return std::string(row.param.step); });
 
 TEST_F(InputFileExpectations, ALateTypeFollowsWhatItExtends)
@@ -96,6 +139,19 @@ TEST_F(InputFileExpectations, ALateTypeFollowsWhatItExtends)
               "** not expected in a heat transfer step\n"
               "*FEATURE\n"
               "*FEATURE\n"
+              "*FEATURE\n");
+}
+
+TEST_F(InputFileExpectations, BoundaryConditionsAndTemperaturesFollowWhatTheyExtend)
+{
+    AddTypes();
+    const Feature& step = AddStep("TstHeatStep");
+    MakeIn(boundaries, "TstClamp", step);
+    MakeIn(temperatures, "TstHistory", step);
+    EXPECT_EQ(Lines(),
+              "** not expected in a heat transfer step\n"
+              "*FEATURE\n"
+              "** not expected in a heat transfer step\n"
               "*FEATURE\n");
 }
 
@@ -118,10 +174,24 @@ TEST_F(InputFileExpectations, NothingIsMarkedInStepsOfWhichNothingIsKnown)
 TEST_F(InputFileExpectations, OtherConditionsAreNotMarked)
 {
     Feature& step = AddStep("HLXFrequencyStepLT");
-    Make("HLXClamp", step);
-    Make("HLXTemperatureLT", step);
+    MakeIn(boundaries, "HLXStringBC", step);
+    MakeIn(boundaries, "HLXSubmodelBCLT", step);
     Make("HLXMassScalingLT", step);
     EXPECT_EQ(Text().find("not expected"), std::string::npos);
+}
+
+TEST_F(InputFileExpectations, NothingIsMarkedInTheInitialStep)
+{
+    Feature& initial = *vex::FirstChildOfType(*vex::FirstChildOfType(Case(1), "HLXHacSimHistLT"),
+                                              "HLXHacInitialStepLT");
+    for (const char* const type : {"HLXDisplacementBC", "HLXClamp", "HLXVelocityBCLT"}) {
+        MakeIn(boundaries, type, initial).Set("UseAmplitude", true);
+    }
+    MakeIn("HLXHacFieldContainerLT", "HLXInitialTemperatureLT", initial);
+    const std::string text = Text();
+    EXPECT_NE(text.find("\n*VELOCITY"), std::string::npos);
+    EXPECT_NE(text.find("\n*INITIAL TEMPERATURE"), std::string::npos);
+    EXPECT_EQ(text.find("not expected"), std::string::npos);
 }
 
 TEST_F(InputFileExpectations, LoadsOutsideOfStepsAreNotMarked)

@@ -2,6 +2,8 @@
 // Which regions an input file defines, once each and in what order, and which it refuses.
 #include "reference/inputfile/SupportFixture.h"
 
+#include <algorithm>
+
 namespace {
 
 using vex::Feature;

@@ -3,12 +3,12 @@
 // expected of them.
 #pragma once
 
+#include "host/feature/FeatureSearch.h"
 #include "host/product/PartGeometry.h"
 #include "product/steps/StepBuilder.h"
 #include "reference/inputfile/StructureFixture.h"
 #include "support/GeometrySpecimens.h"
 
-#include <algorithm>
 #include <string>
 
 namespace hlxtest {
@@ -24,14 +24,17 @@ protected:
         return *step;
     }
 
-    /// A load at the end of a step.
+    /// A condition at the end of a container of a step.
+    static vex::Feature& MakeIn(std::string_view container, const char* type,
+                                const vex::Feature& step, std::string_view alias = {})
+    {
+        return Make(type, *vex::FirstChildOfType(step, container), alias);
+    }
+
     static vex::Feature& Load(const char* type, const vex::Feature& step,
                               std::string_view alias = {})
     {
-        const auto container = std::ranges::find_if(step.Children(), [](const auto* child) {
-            return child->Kind().name == "HLXLoadContainerLT";
-        });
-        return Make(type, **container, alias);
+        return MakeIn("HLXLoadContainerLT", type, step, alias);
     }
 
     /// The digest of a part's shape.

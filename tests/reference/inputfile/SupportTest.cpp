@@ -4,6 +4,8 @@
 #include "VEXMechanicalPart.h"
 #include "reference/inputfile/SupportFixture.h"
 
+#include <algorithm>
+
 namespace {
 
 using vex::Feature;

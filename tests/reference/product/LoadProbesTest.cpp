@@ -24,23 +24,23 @@ TEST_F(LoadProbes, ShowCallsWithTheirArguments)
     const VEXISpecObject_var object(amplitude);
     VEXRawColldouble numbers;
     numbers.Append(1.5);
-    EXPECT_THAT(
-        CallsOf([&] {
-            film->SetAmplitude(object);
-            film->SetUseAmplitude(1);
-            film->SetUserSubroutine(255);
-            film->SetTemperature(51);
-            film->SetCoefficients(numbers);
-            amplitude->SetTimeSpan(1);
-            amplitude->SetData({{0, 1}, {1, 2}});
-            supports->AddSupport(face, part, "GeometrySmartConnector");
-        }),
-        ElementsAre("HLXILoad::SetAmplitude(HLXTabularAmplitudeLT)", "HLXILoad::SetUseAmplitude(1)",
-                    "HLXILoad::SetUserSubroutine(255)", "HLXIFilmCondition::SetTemperature(51)",
-                    "HLXIFilmCondition::SetCoefficients([1])", "HLXIAmplitude::SetTimeSpan(1)",
-                    "HLXIAmplitude::SetData([2])",
-                    "VEXISamAnalysisSupport::AddSupport(VEXFaceCell, VEXPart, "
-                    "\"GeometrySmartConnector\")"));
+    EXPECT_THAT(CallsOf([&] {
+                    film->SetAmplitude(object);
+                    film->SetUseAmplitude(1);
+                    film->SetUserSubroutine(255);
+                    film->SetTemperature(51);
+                    film->SetCoefficients(numbers);
+                    amplitude->SetTimeSpan(1);
+                    amplitude->SetData({{0, 1}, {1, 2}});
+                    supports->AddSupport(face, part, "GeometrySmartConnector");
+                }),
+                ElementsAre("HLXICondition::SetAmplitude(HLXTabularAmplitudeLT)",
+                            "HLXICondition::SetUseAmplitude(1)", "HLXILoad::SetUserSubroutine(255)",
+                            "HLXIFilmCondition::SetTemperature(51)",
+                            "HLXIFilmCondition::SetCoefficients([1])",
+                            "HLXIAmplitude::SetTimeSpan(1)", "HLXIAmplitude::SetData([2])",
+                            "VEXISamAnalysisSupport::AddSupport(VEXFaceCell, VEXPart, "
+                            "\"GeometrySmartConnector\")"));
 }
 
 TEST_F(LoadProbes, ABrokenCallDoesNothingAndEmptiesWhatItWouldGive)

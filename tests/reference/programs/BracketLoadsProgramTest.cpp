@@ -41,12 +41,6 @@ TEST(BracketLoadsProgram, WritesDocumentInputFileFeatureTreeAndTimingLog)
                             AllOf(StartsWith("bracket_loads_"), EndsWith(".txt")), "loads.inp"));
 }
 
-/// What stands below the title of a feature-tree dump.
-std::string TreeOf(const std::string& dump)
-{
-    return dump.substr(dump.find('\n'));
-}
-
 TEST(BracketLoadsProgram, TheDocumentThatItSavedHoldsWhatItWrote)
 {
     const SampleAnalysis sample(1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The files that HLXFileDump writes for the sample, compared with those in tests/golden.
+// The files that programs write for the sample, compared with those in tests/golden.
 #include "reference/programs/SampleAnalysis.h"
 
 namespace hlxtest {
@@ -24,13 +24,27 @@ TEST(GoldenFiles, TheDumpOfTheSampleIsUnchanged)
     EXPECT_EQ(NamesOf(written), NamesOf(FilesIn(HLX_SOURCE_DIR "/tests/golden/HLXFileDump")));
 }
 
-TEST(GoldenFiles, TheLoadsOfTheBracketAreUnchanged)
+/// What an example writes for the sample.
+Files WrittenBy(const std::string& program, const std::string& inputFile)
 {
     const SampleAnalysis sample(1);
-    const Ended ended = RunProgram({Program("bracket_loads"), sample.Input(), "sample.VEXAnalysis",
-                                    sample.Output(), "loads.inp"});
+    const Ended ended = RunProgram(
+        {Program(program), sample.Input(), "sample.VEXAnalysis", sample.Output(), inputFile});
     EXPECT_EQ(ended.code, 0) << ended.err;
-    ExpectGolden("bracket_loads", FilesIn(sample.Output()));
+    return FilesIn(sample.Output());
+}
+
+TEST(GoldenFiles, TheLoadsOfTheBracketAreUnchanged)
+{
+    ExpectGolden("bracket_loads", WrittenBy("bracket_loads", "loads.inp"));
+}
+
+TEST(GoldenFiles, TheReportsOfTheBracketAreUnchanged)
+{
+    Files written = WrittenBy("bracket_reports", "reports.inp");
+    ExpectGolden("bracket_reports", written);
+    EXPECT_EQ(written.erase("BracketReports.VEXAnalysis"), 1u);
+    EXPECT_EQ(NamesOf(written), NamesOf(FilesIn(HLX_SOURCE_DIR "/tests/golden/bracket_reports")));
 }
 
 }  // namespace

@@ -61,6 +61,12 @@ inline std::vector<std::string> NamesOf(const Files& files)
     return names;
 }
 
+/// What stands below the title of a feature-tree dump.
+inline std::string TreeOf(const std::string& dump)
+{
+    return dump.substr(dump.find('\n'));
+}
+
 /// What HLXFileDump writes to standard output when all goes well.
 inline std::string DumpMessages(const std::string& input, const std::string& output,
                                 const std::string& between = "")

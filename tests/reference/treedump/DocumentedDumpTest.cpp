@@ -44,7 +44,7 @@ protected:
         };
         keepOnly(*analysisCase, {"HLXHacSimHistLT", "HLXJobContainerLT"});
         keepOnly(*step->Parent(), {"HLXGeneralStaticStepLT"});
-        keepOnly(*step, {"HLXLoadContainerLT"});
+        keepOnly(*step, {"HLXLoadContainerLT", "HLXBoundaryConditionContainerLT"});
     }
 };
 
@@ -82,6 +82,11 @@ TEST_F(DocumentedDump, IsAsDocumented)
     ASSERT_EQ(VEXISamAnalysisSupport_var(pressure)->AddSupport(CellOf(body, 2, 2), PartFeature(box),
                                                                "GeometrySmartConnector"),
               S_OK);
+    vex::Feature& settling =
+        Named("HLXDisplacementBC", *vex::FirstChildOfType(*step, "HLXBoundaryConditionContainerLT"),
+              "Settling");
+    settling.Set("DisplBCTrans", vex::Boxed<vex::DoubleList>({0, 0, -0.5}));
+    settling.Set("u3ON", true);
     HLXIJob_var job;
     ASSERT_EQ(vex::FaceOf<HLXIJobFactory>(vex::FirstChildOfType(*analysisCase, "HLXJobContainerLT"))
                   ->CreateJob(analysis.Get(), job),
