@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // The factory of temperatures: each type in its container, in the steps that have that one.
-#include "reference/product/ConditionFixture.h"
+#include "reference/product/ConditionFactoryFixture.h"
 
 namespace {
 
-using hlxtest::Outcome;
-using hlxtest::OutcomeOf;
-
-class TemperatureFactory : public hlxtest::ConditionTest
+class TemperatureFactory : public hlxtest::ConditionFactoryTest
 {
 protected:
     static vex::Feature* TemperaturesOf(const vex::Feature& place)
@@ -20,52 +17,31 @@ protected:
         return vex::FirstChildOfType(place, "HLXHacFieldContainerLT");
     }
 
+    Creation Of(const VEXUnicodeString& lateType) const
+    {
+        return [this, lateType](VEXISpecObject_var& temperature, VEXDocument* document,
+                                VEXISamAnalysisSet_var& where) {
+            return temperatures->CreateTemperature(temperature, lateType, document, where);
+        };
+    }
+
     void ExpectMade(const char* lateType, const vex::Feature& place, const vex::Feature* container)
     {
         SCOPED_TRACE(lateType);
-        const std::size_t before = place.Tree()->Size();
-        VEXISpecObject_var temperature = vex::FaceOf<VEXISpecObject>(model);
-        VEXISamAnalysisSet_var where = Set(place);
-        ASSERT_EQ(OutcomeOf([&] {
-                      return temperatures->CreateTemperature(temperature, lateType, analysis.Get(),
-                                                             where);
-                  }),
-                  (Outcome{S_OK, "", ""}));
-        EXPECT_EQ(place.Tree()->Size(), before + 1);
-        const vex::Feature& made = FeatureOf(temperature);
-        EXPECT_STREQ(made.IsA(), lateType);
-        EXPECT_EQ(made.Parent(), container);
-        EXPECT_EQ(made.NextSibling(), nullptr);
-        EXPECT_FALSE(made.HasAlias());
-        EXPECT_EQ(hlxtest::References(made), 1U);
-        EXPECT_EQ(where, Set(place));
-        EXPECT_TRUE(VEXIAlias_var(temperature));
-        EXPECT_TRUE(HLXICondition_var(temperature));
+        VEXISpecObject_var temperature;
+        ASSERT_NO_FATAL_FAILURE(ConditionFactoryTest::ExpectMade(Of(lateType), lateType, place,
+                                                                 container, temperature));
         EXPECT_TRUE(HLXITemperature_var(temperature));
-        EXPECT_TRUE(VEXISamAnalysisEntity_var(temperature));
-        EXPECT_TRUE(VEXISamAnalysisSupport_var(temperature));
         EXPECT_EQ(static_cast<bool>(HLXITemperatureHistory_var(temperature)),
-                  made.Kind().name == "HLXTemperatureHistoryLT");
-        EXPECT_FALSE(HLXILoad_var(temperature));
+                  FeatureOf(temperature).Kind().name == "HLXTemperatureHistoryLT");
         EXPECT_FALSE(HLXIBoundaryCondition_var(temperature));
     }
 
-    /// Nothing is made, and what the caller held stays.
     void ExpectNone(const VEXUnicodeString& lateType, VEXDocument* document,
                     const VEXISamAnalysisSet_var& where, HRESULT result)
     {
         SCOPED_TRACE(lateType.View());
-        const std::size_t before = model->Tree()->Size();
-        VEXISamAnalysisSet_var given = where;
-        VEXISpecObject_var temperature = vex::FaceOf<VEXISpecObject>(model);
-        EXPECT_EQ(OutcomeOf([&] {
-                      return temperatures->CreateTemperature(temperature, lateType, document,
-                                                             given);
-                  }),
-                  (Outcome{result, "", ""}));
-        EXPECT_EQ(&FeatureOf(temperature), model);
-        EXPECT_EQ(given, where);
-        EXPECT_EQ(model->Tree()->Size(), before);
+        ExpectNotMade(Of(lateType), document, where, result);
     }
 
     static constexpr const char* types[] = {"HLXTemperatureLT", "HLXTemperatureHistoryLT",
@@ -87,20 +63,10 @@ TEST_F(TemperatureFactory, MakesEachTypeAtTheEndOfItsContainer)
 
 TEST_F(TemperatureFactory, MakesThemInEachKindOfStep)
 {
-    int steps = 0;
-    for (const vex::LateType* const type : vex::LateTypes::Instance().All()) {
-        std::string error;
-        const vex::Feature* const added = type->IsKindOf("HLXStepLT")
-                                              ? hlx::AddStep(*analysisCase, type->name, "", error)
-                                              : nullptr;
-        if (added != nullptr) {
-            SCOPED_TRACE(type->name);
-            ExpectMade("HLXTemperatureLT", *added, TemperaturesOf(*added));
-            ExpectMade("HLXTemperatureHistoryLT", *added, TemperaturesOf(*added));
-            ++steps;
-        }
-    }
-    EXPECT_GE(steps, 7);
+    InEachKindOfStep([&](const vex::Feature& added) {
+        ExpectMade("HLXTemperatureLT", added, TemperaturesOf(added));
+        ExpectMade("HLXTemperatureHistoryLT", added, TemperaturesOf(added));
+    });
 }
 
 TEST_F(TemperatureFactory, FailsInAStepWithoutTheContainer)
@@ -129,25 +95,12 @@ TEST_F(TemperatureFactory, MakesThreeTypesOnly)
 
 TEST_F(TemperatureFactory, RefusesOtherDocumentsAndSteps)
 {
-    hlxtest::AnalysisDocument other(1);
-    VEXDocument* const part = &Open("box");
-    const auto expectNone = [&](VEXDocument* document, const VEXISamAnalysisSet_var& where) {
-        for (const char* const type : types) {
-            ExpectNone(type, document, where, E_INVALIDARG);
-        }
-    };
-    for (vex::Feature* const place : {step, &InitialStep()}) {
-        expectNone(nullptr, Set(*place));
-        expectNone(other.Get(), Set(*place));
-        expectNone(part, Set(*place));
-    }
-    expectNone(analysis.Get(), {});
-    VEXDocument* const stale = other.Get();
-    ASSERT_EQ(VEXDocumentServices::Remove(*other.Release(), 1), S_OK);
-    expectNone(stale, Set(*step));
-    const VEXISamAnalysisSet_var gone = Set(*step);
-    step->Tree()->Delete(*step);
-    expectNone(analysis.Get(), gone);
+    WithOtherDocumentsAndSteps({step, &InitialStep()},
+                               [&](VEXDocument* document, const VEXISamAnalysisSet_var& where) {
+                                   for (const char* const type : types) {
+                                       ExpectNone(type, document, where, E_INVALIDARG);
+                                   }
+                               });
 }
 
 }  // namespace
