@@ -195,13 +195,14 @@ public:
     // whether it is prescribed and its value (lengths and radians in the units of the document, a
     // unit of time for velocities); the condition, received as soon as it is there; the step. A
     // condition that is in the handle before is taken for the new one when the platform succeeds
-    // without making one; the handle is emptied when "Error in Getting the BC pointer " is printed.
+    // without making one; the handle is emptied when "Error in Getting the BC pointer " is printed,
+    // which tells that the condition is no VEXISamAnalysisEntity, or that one no VEXISpecObject.
     // Results: S_OK, or E_FAIL: with a message where one is named, silently when the condition has
     // not the interface of its kind or refuses to use an amplitude, and when there is no part or
     // body, or the part has not faces, edges and vertices. Nothing is undone on failure.
 
-    /// Displacements. A value is given when its byte is 1 and the fix switch is 0; the bytes
-    /// themselves become the switches in any case, and the condition is changed by a user's
+    /// Displacements. A value is given when its byte is 1 and `fixOn` is 0; each byte, `fixOn` too,
+    /// becomes its switch in any case, on for all but 0, and the condition is changed by a user's
     /// subroutine. Whether it took values and switches is not looked at. "could not create Clamp
     /// entity!", also without a factory; flushed: "Failed to get Tranlation Component", "Failed to
     /// get Rotation Component"; "Error in Getting the BC pointer ", "Could not get VEXILinkable for
@@ -265,12 +266,14 @@ public:
     // --- Parameter reports: no message ---------------------------------------------------------
     //
     // Each appends one block of text with the parameters of a feature to a file, which is made when
-    // it is not there; whether it can be opened is not looked at. The block: an empty line, the
-    // header with a blank at its end, one line "label:value" a parameter, two empty lines. Labels
-    // are kept as they are, "Sunroutine" and "Accelaration" included. A path with a zero in it is
-    // one that cannot be opened.
+    // it is not there; whether it can be opened or written is not looked at. The block: an empty
+    // line, the header with a blank at its end, one line " label:value" a parameter, two empty
+    // lines. Texts and names stand as they are, line feeds too. Labels are kept as they are,
+    // "Sunroutine" and "Accelaration" included. A path with a zero in it is one that cannot be
+    // opened.
     //
-    //     number      six significant digits, exponents of at least three: 0.5, 1.23457e+006
+    //     number      six significant digits, exponents of at least three digits: 0.5, 1.23457e+006
+    //     whole number, text   as it is
     //     flag        "TRUE " with a blank, "FALSE"
     //     amplitude, analysis case   its alias, be it empty; "NULL" when none is referred to, or it
     //                                is nothing that can have an alias
@@ -293,7 +296,8 @@ public:
     static HRESULT DumpDispBCParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);
     /// Of an HLXITemperatureHistory, as it goes: for distribution 0 the temperature; for 2 nothing;
     /// for others steps, increments and analysis case; then user subroutine, use amplitude,
-    /// amplitude. The distribution is that of its HLXITemperature; without an answer it is 2.
+    /// amplitude. The distribution is that of its HLXITemperature; without an answer it is 2, as of
+    /// a history that is gone, which is written too.
     static HRESULT DumpTempHistParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);
     /// Of an HLXITemperature, as it goes: temperature, user subroutine, use amplitude, amplitude.
     static HRESULT DumpTempBCParams(VEXISpecObject_var feature, VEXUnicodeString reportFilePath);

@@ -211,8 +211,11 @@ private:
         SetDumpTreeParameters(name, "Bracket reports");
         char openMode[] = "w";
         DumpFeatTree(openMode);
-        // As with reports: a whole one ends with an empty line.
-        return !error && TextOf(path).ends_with("\n\n") ? S_OK : E_FAIL;
+        // As with reports: a whole one holds the model, and ends with an empty line.
+        const std::string tree = TextOf(path);
+        const bool isWhole =
+            tree.find("VEXSamAnalysisModel") != tree.npos && tree.ends_with("\n\n");
+        return !error && isWhole ? S_OK : E_FAIL;
     }
 
     std::string OutputPath(const std::string& name) const

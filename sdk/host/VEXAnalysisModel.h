@@ -137,7 +137,8 @@ public:
 
 VEX_INTERFACE(VEXISamAnalysisScan);
 
-/// Makes features of an analysis model from the loaded catalogues.
+/// Makes features of an analysis model from the loaded catalogues. The container of features of an
+/// analysis document (VEXISamAccess::GetSpecContainer) is one.
 /// Names of ours: CreateFeature.
 class VEXISamAnalysisModelFactory : public VEXBaseUnknown
 {

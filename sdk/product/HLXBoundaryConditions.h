@@ -35,7 +35,10 @@ public:
 
 VEX_INTERFACE(HLXIDisplacementBC);
 
-/// Velocities or accelerations of a region, by its late type. Names of ours: all.
+/// Velocities or accelerations of a region, by its late type; the factory makes velocities, a
+/// VEXISamAnalysisModelFactory accelerations too. Values and switches are kept in the attributes
+/// "Values" and "Switches", vector parameters that take any number: a switch is on that is not 0.
+/// Names of ours: all.
 class HLXIMotionBC : public HLXIBoundaryCondition
 {
 public:

@@ -63,7 +63,7 @@ TEST_F(VectorParameter, IsAListWhoseDefaultTellsTheComponents)
     EXPECT_EQ(Components(Find(velocity, "Switches")), Numbers(6, 0));
     EXPECT_EQ(Components(Find(Make("HLXSubmodelBCLT", *step), "DegreesOfFreedom")),
               (Numbers{1, 2, 3, 4, 5, 6}));
-    const vex::Feature& foreign = Make("TstDisplacement", *step);
+    const vex::Feature& foreign = Make("CndDisplacement", *step);
     EXPECT_EQ(Components(Find(foreign, "Tilt")), (Numbers{0.5, 0.25}));
     EXPECT_EQ(Components(Find(foreign, "DisplBCTrans")), Numbers(3, 0));
 }
@@ -154,7 +154,7 @@ TEST_F(VectorParameter, RefusesWhatItDoesNotHave)
 
 TEST_F(VectorParameter, OfAShorterStoredListHasTheDefaultsBehindIt)
 {
-    vex::Feature& foreign = Make("TstDisplacement", *step);
+    vex::Feature& foreign = Make("CndDisplacement", *step);
     const VEXIVectorParameter_var parameter = Find(foreign, "Tilt");
     Store(foreign, "Tilt", {});
     EXPECT_EQ(Components(parameter), (Numbers{0.5, 0.25}));

@@ -78,10 +78,10 @@ TEST_F(BoundaryConditionFactory, TakesAContainerOfAnExtendingType)
 {
     std::string error;
     ASSERT_TRUE(vex::LateTypes::Instance().Add(
-        {{"TstConditionContainer", "HLXBoundaryConditionContainerLT", {}}}, error))
+        {{"CndConditionContainer", "HLXBoundaryConditionContainerLT", {}}}, error))
         << error;
     step->Tree()->Delete(*ContainerOf(*step));
-    Make("TstConditionContainer", *step);
+    Make("CndConditionContainer", *step);
     ExpectAllMade(*step);
 }
 

@@ -87,7 +87,7 @@ protected:
 
 TEST_F(BoundaryConditionValues, OfADisplacementAreItsVectors)
 {
-    for (const char* const type : {"HLXDisplacementBC", "TstDisplacement"}) {
+    for (const char* const type : {"HLXDisplacementBC", "CndDisplacement"}) {
         const auto condition = Condition<HLXIDisplacementBC>(type);
         EXPECT_EQ(Values(condition), Numbers(6, 0));
         for (int row = 1; row <= 3; ++row) {
@@ -102,7 +102,7 @@ TEST_F(BoundaryConditionValues, OfADisplacementAreItsVectors)
 
 TEST_F(BoundaryConditionValues, OfADisplacementAreSwitchedByItsAttributes)
 {
-    for (const char* const type : {"HLXDisplacementBC", "TstDisplacement"}) {
+    for (const char* const type : {"HLXDisplacementBC", "CndDisplacement"}) {
         const auto condition = Condition<HLXIDisplacementBC>(type);
         for (int freedom = 1; freedom <= 6; ++freedom) {
             Switch(condition, switches[freedom - 1], 255);
@@ -136,7 +136,7 @@ TEST_F(BoundaryConditionValues, OfADisplacementWithStoredListsOfOtherLengths)
 
 TEST_F(BoundaryConditionValues, OfVelocitiesAndAccelerationsAreSix)
 {
-    for (const char* const type : {"HLXVelocityBCLT", "HLXAccelerationBCLT", "TstMotion"}) {
+    for (const char* const type : {"HLXVelocityBCLT", "HLXAccelerationBCLT", "CndMotion"}) {
         SCOPED_TRACE(type);
         const auto condition = Condition<HLXIMotionBC>(type);
         EXPECT_EQ(Values(condition), Numbers(6, 0));
@@ -156,7 +156,7 @@ TEST_F(BoundaryConditionValues, OfVelocitiesAndAccelerationsAreSix)
 
 TEST_F(BoundaryConditionValues, OfVelocitiesAndAccelerationsHaveASwitchEach)
 {
-    for (const char* const type : {"HLXVelocityBCLT", "HLXAccelerationBCLT", "TstMotion"}) {
+    for (const char* const type : {"HLXVelocityBCLT", "HLXAccelerationBCLT", "CndMotion"}) {
         SCOPED_TRACE(type);
         const auto condition = Condition<HLXIMotionBC>(type);
         ASSERT_EQ(condition->SetValue(3, 2.5), S_OK);

@@ -13,7 +13,7 @@ protected:
         std::vector<HLXICondition*> faces;
         for (const char* const type : {"HLXBoundaryConditionLT", "HLXDisplacementBC", "HLXClamp",
                                        "HLXStringBC", "HLXVelocityBCLT", "HLXAccelerationBCLT",
-                                       "HLXSubmodelBCLT", "TstDisplacement", "TstMotion"}) {
+                                       "HLXSubmodelBCLT", "CndDisplacement", "CndMotion"}) {
             const auto object = Condition<VEXISpecObject>(type);
             const HLXICondition_var common = object;
             const HLXIBoundaryCondition_var condition = object;

@@ -14,10 +14,10 @@ namespace hlxtest {
 
 inline constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/// Late types as a catalogue of somebody else's has them: TstDisplacement (with a vector "Tilt" of
-/// two numbers and a list without a default), TstMotion, TstTemperature, TstHistory, TstJob, and
-/// what stands in a case: TstStep, TstInitialStep, TstHistoryOfSteps, TstContainer,
-/// TstFieldContainer.
+/// Late types as a catalogue of somebody else's has them: CndDisplacement (with a vector "Tilt" of
+/// two numbers and a list without a default), CndMotion, CndTemperature, CndHistory, CndJob, and
+/// what stands in a case: CndStep, CndInitialStep, CndHistoryOfSteps, CndContainer,
+/// CndFieldContainer.
 inline void AddForeignTypes()
 {
     static const bool added = [] {
@@ -25,20 +25,20 @@ inline void AddForeignTypes()
         const vex::Boxed<vex::DoubleList> tilt(vex::DoubleList{0.5, 0.25});
         std::string error;
         EXPECT_TRUE(vex::LateTypes::Instance().Add(
-            {{"TstDisplacement",
+            {{"CndDisplacement",
               "HLXDisplacementBC",
               {{"Tilt", ValueKind::List, tilt},
                {"Untold", ValueKind::List, vex::Boxed<vex::DoubleList>()},
                {"Loose", ValueKind::Boolean, true}}},
-             {"TstMotion", "HLXMotionBCLT", {}},
-             {"TstTemperature", "HLXTemperatureLT", {}},
-             {"TstHistory", "HLXTemperatureHistoryLT", {}},
-             {"TstJob", "HLXJobLT", {}},
-             {"TstStep", "HLXGeneralStaticStepLT", {}},
-             {"TstInitialStep", "HLXHacInitialStepLT", {}},
-             {"TstHistoryOfSteps", "HLXHacSimHistLT", {}},
-             {"TstContainer", "HLXContainerLT", {}},
-             {"TstFieldContainer", "HLXHacFieldContainerLT", {}}},
+             {"CndMotion", "HLXMotionBCLT", {}},
+             {"CndTemperature", "HLXTemperatureLT", {}},
+             {"CndHistory", "HLXTemperatureHistoryLT", {}},
+             {"CndJob", "HLXJobLT", {}},
+             {"CndStep", "HLXGeneralStaticStepLT", {}},
+             {"CndInitialStep", "HLXHacInitialStepLT", {}},
+             {"CndHistoryOfSteps", "HLXHacSimHistLT", {}},
+             {"CndContainer", "HLXContainerLT", {}},
+             {"CndFieldContainer", "HLXHacFieldContainerLT", {}}},
             error))
             << error;
         return true;

@@ -83,7 +83,7 @@ TEST_F(TemperatureFactory, FailsInAStepWithoutTheContainer)
 TEST_F(TemperatureFactory, MakesThreeTypesOnly)
 {
     for (const char* const type :
-         {"", "HLXBaseTemperatureLT", "TstTemperature", "TstHistory", "HLXInitialVelocityLT",
+         {"", "HLXBaseTemperatureLT", "CndTemperature", "CndHistory", "HLXInitialVelocityLT",
           "HLXClamp", "HLXEntity", "hlxTemperatureLT", "HLXTemperatureLT ", "HLXTemperature",
           "NoSuchType", "\xff"}) {
         ExpectNone(type, analysis.Get(), Set(*step), E_INVALIDARG);

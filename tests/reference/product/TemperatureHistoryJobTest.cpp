@@ -16,7 +16,7 @@ TEST_F(TemperatureHistoryJob, HasAJobOfItsDocumentAndTheCaseOfThat)
     ExpectJob(history, {}, {});
     const VEXISpecObject_var job = Job(Case());
     const VEXISpecObject_var other = Job();
-    const VEXISpecObject_var foreign = Job(Case(), "TstJob");
+    const VEXISpecObject_var foreign = Job(Case(), "CndJob");
     const VEXISpecObject_var second =
         vex::FaceOf<VEXISpecObject>(&Make("HLXHacAnalysisCaseLT", *model));
     EXPECT_EQ(history->SetJob(job, 0), S_OK);

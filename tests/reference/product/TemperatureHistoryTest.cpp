@@ -16,7 +16,7 @@ using TemperatureHistory = hlxtest::TemperatureHistoryTest;
 
 TEST_F(TemperatureHistory, IsATemperatureOfTheSameMagnitude)
 {
-    for (const char* const type : {"HLXTemperatureHistoryLT", "TstHistory"}) {
+    for (const char* const type : {"HLXTemperatureHistoryLT", "CndHistory"}) {
         const HLXITemperatureHistory_var made = New(type);
         const HLXITemperature_var temperature = made;
         ASSERT_TRUE(temperature) << type;

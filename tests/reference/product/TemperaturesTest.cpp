@@ -18,7 +18,7 @@ protected:
         std::vector<HLXITemperature_var> all;
         for (const char* const type :
              {"HLXBaseTemperatureLT", "HLXTemperatureLT", "HLXInitialTemperatureLT",
-              "HLXTemperatureHistoryLT", "TstTemperature", "TstHistory"}) {
+              "HLXTemperatureHistoryLT", "CndTemperature", "CndHistory"}) {
             all.push_back(vex::FaceOf<HLXITemperature>(
                 &Make(type, *vex::FirstChildOfType(*step, "HLXTemperatureContainerLT"))));
             EXPECT_TRUE(all.back()) << type;

@@ -49,8 +49,8 @@ TEST_F(ValidateStepRefusal, RefusesTypesThatAreNoContainersOfInitialSteps)
 {
     for (const char* const type :
          {"HLXTemperatureContainerLT", "HLXLoadContainerLT", "HLXJobContainerLT", "HLXContainerLT",
-          "TstContainer", "TstFieldContainer", "HLXHacInitialStepLT", "HLXStepLT",
-          "HLXHacSimHistLT", "HLXLoad", "TstStep", "HLXTemperatureLT", "hlxContainerLT", " ",
+          "CndContainer", "CndFieldContainer", "HLXHacInitialStepLT", "HLXStepLT",
+          "HLXHacSimHistLT", "HLXLoad", "CndStep", "HLXTemperatureLT", "hlxContainerLT", " ",
           "HLXHacFieldContainerLT ", "NoSuchType", "\xff"}) {
         for (const unsigned char make : std::initializer_list<unsigned char>{0, 1}) {
             ExpectNone(E_INVALIDARG, analysis.Get(), type, "", make);

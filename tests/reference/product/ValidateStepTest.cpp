@@ -68,7 +68,7 @@ TEST_F(ValidateStep, MakesTheContainerOnce)
 TEST_F(ValidateStep, TakesAContainerOfAnExtendingType)
 {
     Delete(*vex::FirstChildOfType(initial, fieldContainer));
-    Make("TstFieldContainer", initial);
+    Make("CndFieldContainer", initial);
     const std::size_t before = Size();
     EXPECT_EQ(Found(fieldContainer), &initial);
     EXPECT_EQ(Found(fieldContainer, "", 1), &initial);
@@ -139,10 +139,10 @@ TEST_F(ValidateStep, IsMadeWithTheHistoryItStandsIn)
 TEST_F(ValidateStep, TakesStepsAndHistoriesOfExtendingTypes)
 {
     vex::Feature* const history = step->Parent();
-    vex::Feature& other = vex::AddFeature(*analysisCase, "TstHistoryOfSteps", history);
+    vex::Feature& other = vex::AddFeature(*analysisCase, "CndHistoryOfSteps", history);
     Delete(*history);
     step = analysisCase;
-    vex::Feature& foreign = Make("TstInitialStep", other);
+    vex::Feature& foreign = Make("CndInitialStep", other);
     EXPECT_EQ(Found(""), &foreign);
     const std::size_t before = Size();
     EXPECT_EQ(Found(fieldContainer, "", 1), &foreign);

@@ -116,6 +116,12 @@ TEST(BracketReportsProgram, EndsWithOneWhenAReportCannotBeWritten)
     EXPECT_EQ(std::filesystem::exists(sample.Output() + "/Working.txt"), false);
 }
 
+TEST(BracketReportsProgram, EndsWithOneWhenTheTreeIsEmpty)
+{
+    const SampleAnalysis sample(1);
+    EXPECT_EQ(RunBracketReports(sample, {{"VEX_FAULTS=DumpFeatureTree=E_FAIL"}}).code, 1);
+}
+
 TEST(BracketReportsProgram, TellsHowItIsCalled)
 {
     const Ended ended = RunProgram({Program("bracket_reports")});
